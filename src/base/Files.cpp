@@ -1,0 +1,64 @@
+#include "base/Files.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace {
+
+tl::unexpected<FileError> failed(const QString &path, const QString &reason)
+{
+    return tl::unexpected(FileError{path, reason});
+}
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("Files", text);
+}
+
+} // namespace
+
+QString systemPath(const QString &path)
+{
+#ifdef Q_OS_WIN
+    return path;
+#else
+    if (path.startsWith(u'/'))
+        return path;
+    QString native = path;
+    return native.replace(u'\\', u'/');
+#endif
+}
+
+bool isExistingFile(const QString &path)
+{
+    return !path.isEmpty() && QFileInfo(systemPath(path)).isFile();
+}
+
+tl::expected<QByteArray, FileError> readWholeFile(const QString &path)
+{
+    const QFileInfo info(systemPath(path));
+    if (path.isEmpty() || !info.exists())
+        return failed(path, translated(QT_TRANSLATE_NOOP("Files", "the file does not exist")));
+    if (info.isDir())
+        return failed(path, translated(QT_TRANSLATE_NOOP("Files", "it is a folder")));
+    if (!info.isFile())
+        return failed(path, translated(QT_TRANSLATE_NOOP("Files", "it is not a regular file")));
+    QFile file(info.filePath());
+    if (!file.open(QIODevice::ReadOnly))
+        return failed(path, file.errorString());
+    QByteArray content = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return failed(path, file.errorString());
+    return content;
+}
+
+tl::expected<void, FileError> replaceWholeFile(const QString &path, const QByteArray &content)
+{
+    QSaveFile file(systemPath(path));
+    // Commit reports every failure of the steps before it.
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
+        return failed(path, file.errorString());
+    return {};
+}

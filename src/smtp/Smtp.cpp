@@ -1,0 +1,1 @@
+#include "smtp/Smtp.h" // the signals' code is generated from the header
