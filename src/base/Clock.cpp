@@ -19,3 +19,19 @@ quint32 SystemClock::tickCount() const
     return static_cast<quint32>(
         std::chrono::duration_cast<std::chrono::milliseconds>(sinceStart).count());
 }
+
+SystemSecondTimer::SystemSecondTimer()
+{
+    m_timer.setInterval(std::chrono::seconds(1));
+    m_timer.setTimerType(Qt::PreciseTimer);
+    m_timer.callOnTimeout(&m_timer, [this] { onTick(); });
+}
+
+void SystemSecondTimer::setEnabled(bool enabled)
+{
+    // Enabling an enabled timer does not begin its second anew.
+    if (enabled && !m_timer.isActive())
+        m_timer.start();
+    else if (!enabled)
+        m_timer.stop();
+}

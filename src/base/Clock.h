@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QTimer>
 
 #include <functional>
 
@@ -43,4 +44,16 @@ public:
 
     /// What a tick does; set once, before the timer is first enabled.
     std::function<void()> onTick;
+};
+
+class SystemSecondTimer final : public SecondTimer
+{
+public:
+    SystemSecondTimer();
+
+    void setEnabled(bool enabled) override;
+    [[nodiscard]] bool isEnabled() const override { return m_timer.isActive(); }
+
+private:
+    QTimer m_timer;
 };

@@ -1,0 +1,8 @@
+#include "base/Host.h"
+
+#include <QSysInfo>
+
+QString computerName()
+{
+    return QSysInfo::machineHostName();
+}

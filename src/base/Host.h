@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// The computer's name, as it stands in message identifiers.
+[[nodiscard]] QString computerName();

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QStringView>
+
+#include <optional>
+
+/// Walks a text line by line. A line ends at CR LF, LF or CR; the last may lack its end.
+class LineReader
+{
+public:
+    explicit LineReader(QStringView text) : m_rest(text) {}
+
+    [[nodiscard]] bool atEnd() const { return m_rest.isEmpty(); }
+    /// The next line without its end; nothing when the text is used up.
+    [[nodiscard]] std::optional<QStringView> next();
+
+private:
+    QStringView m_rest;
+};
+
+/// The length of the line end at the start of the text: 2 for CR LF, 1 for CR or LF, else 0.
+[[nodiscard]] int lineEndLength(QStringView text);

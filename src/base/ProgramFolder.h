@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QString>
+
+/// The folder that holds the log, the address books and the working folder "Temp": the folder of
+/// the executable when the user may write there (a build, a portable copy), else the per-user data
+/// folder, which is created when it is missing. Without a separator at its end.
+[[nodiscard]] QString programFolder();

@@ -1,0 +1,81 @@
+#include "log/CLog.h"
+
+#include "base/Files.h"
+#include "base/modMain.h"
+
+namespace {
+
+constexpr int SeparatorLength = 50;
+constexpr qint64 BlockLength = 255;
+
+} // namespace
+
+CLog::CLog(const Clock &clock, const RegionalFormats &formats, const CodePage &codePage)
+    : m_clock(clock), m_formats(formats), m_codePage(codePage)
+{}
+
+CLog::CLog(const QString &programFolder, const Clock &clock, const RegionalFormats &formats,
+           const CodePage &codePage)
+    : CLog(clock, formats, codePage)
+{
+    const QString name = m_clock.now().toString(QStringLiteral("MM-yyyy")) + QLatin1String(".log");
+    m_file.setFileName(systemPath(joinPath(programFolder, name)));
+    // Without a buffer of our own: when a line reaches the disk is the system's affair, but a
+    // program that dies has handed over every line.
+    m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
+    // The session begins ON the last byte of the one before, not behind it: its CR takes the place
+    // of the earlier LF, so that sessions are set apart by CR CR LF. Readers of these files count
+    // on it. In an empty file there is no such byte, and writing begins at the start.
+    if (m_file.size() > 0)
+        m_file.seek(m_file.size() - 1);
+    writeAsItIs("\r\n" + QByteArray(SeparatorLength, '-') + "\r\n");
+    WriteMessage(QStringLiteral("Program started..."));
+}
+
+CLog::~CLog()
+{
+    WriteMessage(QStringLiteral("Program ended..."));
+}
+
+void CLog::WriteMessage(const QString &Testo)
+{
+    if (!m_file.isOpen())
+        return;
+    constexpr qint64 MicrosecondsPerSecond = 1'000'000;
+    const qint64 second = m_clock.microseconds() / MicrosecondsPerSecond;
+    if (second != m_stampedSecond) {
+        const QDateTime now = m_clock.now();
+        m_stamp = m_formats.shortDate(now) + u' ' + m_formats.longTime(now) + QLatin1String("  ");
+        m_stampedSecond = second;
+    }
+    writeAsItIs(m_codePage.encode(m_stamp + Testo + QLatin1String("\r\n")));
+}
+
+void CLog::GetLog(QString &txt)
+{
+    if (!m_file.isOpen())
+        return;
+    const qint64 writePosition = m_file.pos();
+    m_file.seek(0);
+    QByteArray content;
+    while (!m_file.atEnd()) {
+        const QByteArray block = m_file.read(BlockLength);
+        if (block.isEmpty())
+            break;
+        content += block;
+    }
+    m_file.seek(writePosition);
+    // Lines are encoded one by one, so they are decoded one by one.
+    for (qsizetype start = 0; start < content.size();) {
+        qsizetype end = content.indexOf('\n', start);
+        end = end < 0 ? content.size() : end + 1;
+        txt += m_codePage.decode(QByteArrayView(content).sliced(start, end - start));
+        start = end;
+    }
+}
+
+void CLog::writeAsItIs(const QByteArray &bytes)
+{
+    if (m_file.isOpen())
+        m_file.write(bytes);
+}
