@@ -1,0 +1,44 @@
+#pragma once
+
+#include "base/Language.h"
+#include "base/ServerReply.h"
+
+#include <QString>
+
+#include <optional>
+
+/// What became of a row. The words stand in project files in the language of the window that
+/// wrote them, and are shown as they stand.
+enum class RowState {
+    Waiting,
+    Sending,
+    Sent,
+    NotSent, ///< unchecked, and passed over
+    Error,
+};
+
+[[nodiscard]] QString stateWord(RowState state, Language language);
+
+/// The state that a word of either language says; nothing for any other text.
+[[nodiscard]] std::optional<RowState> stateOfWord(const QString &word);
+
+/// Which picture a row shows. Checking by the check box moves the index down by one, unchecking
+/// moves it up by one, whatever it was; files may hold any number.
+namespace RowImage {
+constexpr qint16 Checked = 2;
+constexpr qint16 Unchecked = 3;
+constexpr qint16 AddedByHand = 4;
+} // namespace RowImage
+
+/// One row of the recipient list.
+struct Recipient
+{
+    quint64 id = 0; ///< what the row is known by however it moves; given by the list
+    QString number; ///< the text of the column "N°"
+    QString name;
+    QString address;
+    QString state;
+    bool checked = true;
+    qint16 imageIndex = RowImage::Checked;
+    ServerReply reply; ///< what the server last said about this row
+};
