@@ -14,8 +14,9 @@ struct Notice
     Icon icon = Icon::None;
     QString title;
     QString text;
-
-    bool operator==(const Notice &) const = default;
+    /// The path and the reason behind it, where the text does not say them; not part of the box's
+    /// text.
+    QString detail = {};
 };
 
 /// What a question is about. The text is for people; programs that answer go by this.

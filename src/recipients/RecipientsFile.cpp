@@ -78,18 +78,21 @@ void RecipientsFile::ImportRecipientsFile()
 {
     const QString recipientsFilePath = m_form.tag(Control::txtDestinatari);
     RecipientsText read;
+    QString reason = tr("a line without \";\", or more than %1 recipients").arg(MostImportedRows);
     if (const auto content = readWholeFile(recipientsFilePath)) {
         read = readRecipientsText(m_codePage.decode(*content),
                                   stateWord(RowState::Waiting, m_form.language()));
     } else {
         read.complete = false;
+        reason = content.error().reason;
     }
     // What was read before a failure stays.
     m_list.replaceAll(std::move(read.rows));
     m_list.sort(Column::Name, Qt::AscendingOrder);
     if (!read.complete) {
         m_prompts.notice({Icon::Critical, tr("Recipients"),
-                          tr("Unable to load the specified list of recipients!")});
+                          tr("Unable to load the specified list of recipients!"),
+                          FileError{recipientsFilePath, reason}.toText()});
         return;
     }
     if (!read.rejected.isEmpty()) {

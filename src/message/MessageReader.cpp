@@ -1,0 +1,71 @@
+#include "message/MessageReader.h"
+
+#include "base/Files.h"
+#include "base/Lines.h"
+
+#include <QStringDecoder>
+
+namespace {
+
+// What stands behind "charset=" near the beginning of an HTML file, as browsers look for it.
+QByteArray declaredCharset(const QByteArray &content)
+{
+    constexpr qsizetype Reach = 1024;
+    const QByteArray head = content.first(std::min(content.size(), Reach)).toLower();
+    constexpr QByteArrayView Key = "charset=";
+    qsizetype at = head.indexOf(Key);
+    if (at < 0)
+        return {};
+    at += Key.size();
+    while (at < head.size() && (head[at] == '"' || head[at] == '\''))
+        ++at;
+    qsizetype end = at;
+    while (end < head.size() && (isalnum(static_cast<unsigned char>(head[end])) != 0 ||
+                                 head[end] == '-' || head[end] == '_' || head[end] == ':'))
+        ++end;
+    return head.sliced(at, end - at);
+}
+
+} // namespace
+
+QString decodeMessage(const QByteArray &content, MessageKind kind, const CodePage &codePage)
+{
+    if (kind == MessageKind::Html && !readsAsUtf8(content)) {
+        const QByteArray charset = declaredCharset(content);
+        QStringDecoder decoder(charset.constData());
+        // A declaration that the bytes do not keep to is no help: the common rule is.
+        if (!charset.isEmpty() && decoder.isValid()) {
+            const QString text = decoder(content);
+            if (!decoder.hasError())
+                return text;
+        }
+    }
+    return codePage.decode(content);
+}
+
+MessageReader::MessageReader(Prompts &prompts, CLog &AppLog, const CodePage &codePage)
+    : m_prompts(prompts), m_AppLog(AppLog), m_codePage(codePage)
+{}
+
+bool MessageReader::LoadMessageFile(QString &content, const QString &path, MessageKind kind) const
+{
+    content.clear();
+    const auto bytes = readWholeFile(path);
+    if (!bytes) {
+        reportUnreadable(bytes.error().toText());
+        return false;
+    }
+    const QString text = decodeMessage(*bytes, kind, m_codePage);
+    content.reserve(text.size() + 2);
+    LineReader lines(text);
+    while (const auto line = lines.next())
+        content.append(*line).append(QLatin1String("\r\n"));
+    m_AppLog.WriteMessage(QLatin1String("Message file '") + path + QLatin1String("' loaded"));
+    return true;
+}
+
+void MessageReader::reportUnreadable(const QString &detail) const
+{
+    m_prompts.notice(
+        {Icon::Critical, tr("Message"), tr("Unable to load the specified message!"), detail});
+}
