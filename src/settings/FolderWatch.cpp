@@ -33,12 +33,12 @@ FolderWatch::Event FolderWatch::next(const Descriptor &stop, std::string &name)
 
 bool FolderWatch::readEvents()
 {
-    alignas(inotify_event) std::array<char, 16384> buffer;
+    alignas(inotify_event) std::array<char, 16384> buffer{};
     const ssize_t count = ::read(m_events.number(), buffer.data(), buffer.size());
     if (count < 0)
         return errno == EINTR || errno == EAGAIN;
     for (std::size_t at = 0; at < static_cast<std::size_t>(count);) {
-        inotify_event event;
+        inotify_event event = {};
         std::memcpy(&event, buffer.data() + at, sizeof event);
         at += sizeof event;
         if ((event.mask & IN_Q_OVERFLOW) != 0)

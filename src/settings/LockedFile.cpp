@@ -44,7 +44,7 @@ path beside(const path &file, std::string_view ending)
 
 std::int32_t readAll(int descriptor, std::string &bytes)
 {
-    std::array<char, 16384> block;
+    std::array<char, 16384> block{};
     for (;;) {
         const ssize_t count = ::read(descriptor, block.data(), block.size());
         if (count == 0)
