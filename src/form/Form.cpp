@@ -72,6 +72,12 @@ void Form::setChecked(Control control, bool checked)
     Q_EMIT changed(control);
 }
 
+void Form::setCaption(const QString &caption)
+{
+    m_caption = caption;
+    Q_EMIT captionChanged();
+}
+
 void Form::setRunState(RunState state, const char *reason)
 {
     qCDebug(runTrace, "%s -> %s: %s", nameOf(m_runState), nameOf(state), reason);

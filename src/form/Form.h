@@ -39,6 +39,10 @@ public:
     /// A change of chkRicevuta marks the project as modified; one of chkMultiSend does not.
     void setChecked(Control control, bool checked);
 
+    /// The window's caption.
+    [[nodiscard]] QString caption() const { return m_caption; }
+    void setCaption(const QString &caption);
+
     [[nodiscard]] bool projectModified() const { return m_projectModified; }
     void setProjectModified(bool modified) { m_projectModified = modified; }
     /// The open project file; empty when the project has no name yet.
@@ -56,6 +60,7 @@ public:
 
 Q_SIGNALS:
     void changed(Control control);
+    void captionChanged();
     void runStateChanged(RunState state);
 
 private:
@@ -77,6 +82,7 @@ private:
 
     Language m_language;
     std::vector<Content> m_contents;
+    QString m_caption;
     bool m_projectModified = false;
     QString m_projectPath;
     RunState m_runState = RunState::Idle;

@@ -19,6 +19,8 @@ public:
     /// emptied is not loaded.
     bool LoadHtmlBody();
     void empty();
+    /// The box of a message that cannot be loaded.
+    void reportUnreadable(const QString &detail) const { m_reader.reportUnreadable(detail); }
     [[nodiscard]] QString textBody() const { return m_textBody; }
     [[nodiscard]] QString htmlBody() const { return m_htmlBody; }
 

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "base/CodePage.h"
+#include "base/Files.h"
+#include "form/Form.h"
+#include "log/CLog.h"
+#include "message/Attachments.h"
+#include "message/MessageSize.h"
+#include "project/ProjectData.h"
+#include "prompts/Prompts.h"
+#include "recipients/RecipientList.h"
+#include "sending/SendingEngine.h"
+
+#include <QCoreApplication>
+
+#include <functional>
+#include <optional>
+
+enum class LoadOutcome {
+    Loaded,
+    LoadedPaused, ///< the run goes on where it stood once it is resumed
+    LoadedInPart, ///< the file was cut; the project has no name, so that it cannot be overwritten
+    Refused,      ///< nothing changed
+};
+
+/// The project file of the window: written from the form and the lists, and loaded into them.
+class ProjectFile
+{
+    Q_DECLARE_TR_FUNCTIONS(ProjectFile)
+
+public:
+    ProjectFile(Form &form, RecipientList &recipients, Attachments &attachments, MessageSize &size,
+                SendingEngine &engine, Prompts &prompts, CLog &AppLog, const CodePage &codePage);
+
+    /// Writes the project to that path and makes it the project's. While a message of a paused run
+    /// is in flight, what is written is the project as it stands now with that message's result;
+    /// until then other commands wait. On failure a box says why, the old file stays, and the
+    /// project keeps the path it had.
+    void SaveProject(const QString &path, std::function<void(bool saved)> then);
+    /// Reads the whole file before anything changes.
+    LoadOutcome LoadProject(const QString &path);
+
+    /// Writes a save that waits for a message now, with that message in doubt: the cursor lies
+    /// past it, so that it cannot be sent again.
+    void finishWaitingSave();
+
+private:
+    struct WaitingSave
+    {
+        QString path;
+        ProjectData project;
+        std::function<void(bool)> then;
+    };
+
+    [[nodiscard]] ProjectData collect() const;
+    void show(const ProjectData &project);
+    void restorePausedRun();
+    void write(const WaitingSave &save);
+    static void apply(const Settlement &settlement, ProjectData &project);
+
+    Form &m_form;
+    RecipientList &m_recipients;
+    Attachments &m_attachments;
+    MessageSize &m_size;
+    SendingEngine &m_engine;
+    Prompts &m_prompts;
+    CLog &m_AppLog;
+    const CodePage &m_codePage;
+    std::optional<WaitingSave> m_waiting;
+};

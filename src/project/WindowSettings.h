@@ -1,0 +1,27 @@
+#pragma once
+
+#include "base/CodePage.h"
+#include "form/Form.h"
+#include "settings/SettingsStore.h"
+
+#include <QString>
+
+/// The part of the form that is kept from one run of the program to the next.
+class WindowSettings
+{
+public:
+    WindowSettings(Form &form, SettingsStore &store, const CodePage &codePage,
+                   const QString &programFolder);
+
+    void LoadSettings();
+    void SaveSettings() const;
+
+    QString HTMLEditorPath; ///< the command of the HTML editor
+    QString TXTEditorPath;  ///< the command of the text editor
+
+private:
+    Form &m_form;
+    SettingsStore &m_store;
+    const CodePage &m_codePage;
+    QString m_programFolder;
+};

@@ -1,0 +1,168 @@
+#pragma once
+
+#include "base/Clock.h"
+#include "base/RegionalFormats.h"
+#include "form/Form.h"
+#include "log/CLog.h"
+#include "message/Attachments.h"
+#include "message/MessageBodies.h"
+#include "prompts/Prompts.h"
+#include "recipients/RecipientList.h"
+#include "sending/MomentTexts.h"
+#include "sending/SendSession.h"
+#include "sending/Turns.h"
+#include "smtp/Smtp.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+/// How a save that a command asked for came out.
+enum class SaveOutcome {
+    Saved,
+    Abandoned, ///< the user cancelled the choice of a name
+    Failed,
+};
+
+/// What the engine works with. All of it outlives the engine.
+struct EngineParts
+{
+    Form &form;
+    RecipientList &recipients;
+    const Attachments &attachments;
+    MessageBodies &bodies;
+    Smtp &SMTP;
+    Prompts &prompts;
+    CLog &AppLog;
+    const Clock &clock;
+    const RegionalFormats &formats;
+    SecondTimer &Timer;  ///< counts down to the next packet
+    SecondTimer &Timer2; ///< shows elapsed and remaining time
+    QString computerName;
+    /// Runs the save command; what is above the engine hands it in.
+    std::function<void(std::function<void(SaveOutcome)>)> save;
+};
+
+/// A run: from Start through packets, results, pause, resume and stop to its end. Every step is
+/// started by the user, by a tick or by an event of the client, and nothing waits.
+///
+/// The client gets one message at a time. What is in flight is remembered by the identity of its
+/// rows: a result concerns them and nothing else, so that nobody can be mailed twice because a
+/// cursor moved meanwhile.
+class SendingEngine : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit SendingEngine(const EngineParts &parts);
+
+    // The user's commands.
+    void cmdAvvio_Click();
+    /// Pauses a run that goes, resumes one that is paused.
+    void cmdPausa_Click();
+    void cmdStop_Click();
+
+    /// Loads both bodies anew, with their pictures. False when a file cannot be read; resuming a
+    /// paused run then tries again.
+    bool loadBodies();
+    /// Puts the window into the paused state, for a project that was saved so.
+    void EnterPausedState();
+    /// Ends the run and restores the idle window. Touches neither the connection nor the rows'
+    /// states.
+    void StopSending();
+    /// One step of the elapsed and remaining time.
+    void Timer2_Timer();
+
+    /// Fills the client's properties and attachments with the message that the row at this
+    /// position would get alone.
+    void composeForRow(int position);
+
+    [[nodiscard]] qint32 nextRecipientIndex() const { return m_session.nextRecipientIndex; }
+    void setNextRecipientIndex(qint32 index);
+    /// The identity of the row that this run appended for the control address; 0 without one.
+    [[nodiscard]] quint64 controlRow() const { return m_controlRow; }
+
+    [[nodiscard]] bool messageInFlight() const { return m_inFlight.has_value(); }
+    /// The rows of the message in flight as they are while nobody knows what became of it.
+    [[nodiscard]] Settlement settlementInDoubt() const;
+    /// Calls back once, when the message in flight is settled.
+    void whenSettled(std::function<void(const Settlement &)> then);
+    [[nodiscard]] Turns &turns() { return m_turns; }
+
+Q_SIGNALS:
+    /// A row got its result in this run: "Sent", "Error!" or "Not sent".
+    void rowDone(int position);
+    /// The run ended by itself: no checked row was left.
+    void runEnded();
+    /// The session failed, and with it the run.
+    void runFailed(qint32 Number, const QString &Description);
+
+private:
+    // Start
+    void checkPictures();
+    void offerToSave();
+    void beginRun();
+    void ConnectForPacket();
+
+    // Dispatch
+    void SMTP_StatusChanged(qint32 Code);
+    void endPacket();
+    [[nodiscard]] bool findNextRecipient();
+    [[nodiscard]] std::vector<int> takeGroup();
+    enum class Addressing { Single, Group };
+    void fillMessage(const std::vector<int> &positions, Addressing addressing);
+    void handOver(const std::vector<int> &positions, Addressing addressing);
+    [[nodiscard]] QString PersonalizeText(const QString &text) const;
+    void markNotSent(int position);
+
+    // Results
+    void SMTP_MessageDone(bool Sent);
+    void SMTP_SmtpError(qint32 Number, const QString &Description);
+    [[nodiscard]] bool isStale(const MessageInFlight &message) const;
+    [[nodiscard]] Settlement takeBrokenMessage();
+    void settle(const Settlement &settlement);
+
+    // Pacing
+    void Timer_Timer();
+    void pause();
+    void resume();
+    void endRunOfItself(const QString &text);
+    void failTimer(const QString &reason);
+    void setRunState(RunState state, const char *reason);
+    void applyTimers();
+    void startNewRun();
+    [[nodiscard]] std::shared_ptr<void> holdTimer();
+    [[nodiscard]] std::optional<qint32> estimate() const;
+
+    [[nodiscard]] QString stateText(RowState state) const
+    {
+        return stateWord(state, m_form.language());
+    }
+
+    Form &m_form;
+    RecipientList &m_recipients;
+    const Attachments &m_attachments;
+    MessageBodies &m_bodies;
+    Smtp &m_SMTP;
+    Prompts &m_prompts;
+    CLog &m_AppLog;
+    const Clock &m_clock;
+    const RegionalFormats &m_formats;
+    SecondTimer &m_Timer;
+    SecondTimer &m_Timer2;
+    std::function<void(std::function<void(SaveOutcome)>)> m_save;
+    MomentTexts m_moment;
+
+    SendSession m_session;
+    std::optional<MessageInFlight> m_inFlight;
+    std::vector<std::function<void(const Settlement &)>> m_whenSettled;
+    Turns m_turns;
+    quint64 m_controlRow = 0;
+    quint32 m_startedRun = 0;          ///< the number of the run that started last
+    int m_searchFrom = 1;              ///< behind the last row that was finished
+    bool m_sessionIsOfThisRun = false; ///< connected since Start, Resume or load
+    bool m_bodiesLoaded = false;
+    int m_timerHolds = 0;
+};

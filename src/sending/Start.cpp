@@ -1,0 +1,142 @@
+// From the Start button to the armed timer, and the connection of each packet.
+
+#include "sending/SendingEngine.h"
+
+#include "base/Numbers.h"
+#include "sending/StartRefusals.h"
+#include "smtp/SmtpErrorNumber.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Start)
+};
+
+constexpr qint32 StandardPort = 25; // RFC 5321, section 4.5.4.2
+constexpr qint32 HighestPort = 65535;
+
+} // namespace
+
+void SendingEngine::cmdAvvio_Click()
+{
+    if (!m_form.isEnabled(Control::cmdAvvio))
+        return;
+    if (const auto refusal = refusalOfStart(m_form, m_recipients.count())) {
+        m_prompts.notice(*refusal);
+        return;
+    }
+    checkPictures();
+}
+
+void SendingEngine::checkPictures()
+{
+    const QString htmlPath = m_form.tag(Control::txtHTML);
+    if (htmlPath.isEmpty() || m_bodies.CheckLinkedImages(htmlPath)) {
+        offerToSave();
+        return;
+    }
+    Question question;
+    question.topic = Topic::LinkedImages;
+    question.buttons = Buttons::YesNo;
+    // The title of this box stays English in the Italian window too.
+    question.title = QStringLiteral("Start");
+    question.text = Texts::tr("Some image files linked to the HTML document aren't in the same "
+                              "folder of the document or they are linked with an absolute path. "
+                              "These images won't be sent correctly. Do you want to continue?");
+    m_prompts.ask(
+        question, [this, asked = m_form.situation()] { return m_form.situation() == asked; },
+        [this](Answer answer) {
+            if (answer == Answer::Yes)
+                offerToSave();
+        });
+}
+
+void SendingEngine::offerToSave()
+{
+    if (!m_form.projectModified()) {
+        beginRun();
+        return;
+    }
+    const auto stands = [this, asked = m_form.situation()] { return m_form.situation() == asked; };
+    Question question;
+    question.topic = Topic::SaveBeforeStart;
+    question.buttons = Buttons::YesNoCancel;
+    question.title = Texts::tr("Save");
+    question.text = Texts::tr("Save changes before start sending?");
+    m_prompts.ask(question, stands, [this, stands](Answer answer) {
+        if (answer == Answer::No) {
+            beginRun();
+        } else if (answer == Answer::Yes) {
+            m_save([this, stands](SaveOutcome outcome) {
+                if (outcome != SaveOutcome::Failed && stands())
+                    beginRun();
+            });
+        }
+    });
+}
+
+void SendingEngine::beginRun()
+{
+    startNewRun();
+    setRunState(RunState::Waiting, "Start was accepted");
+    for (int position = 1; position <= m_recipients.count(); ++position) {
+        m_recipients.setReply(position, {});
+        m_recipients.setState(position, stateText(RowState::Waiting));
+    }
+    m_controlRow = 0;
+    if (const QString control = m_form.text(Control::txtControl); !control.isEmpty()) {
+        Recipient row;
+        row.number = QString::number(m_recipients.count() + 1);
+        row.name = Texts::tr("Control Address");
+        row.address = control;
+        row.state = stateText(RowState::Waiting);
+        m_controlRow = m_recipients.append(row);
+    }
+    if (const auto missing = missingMessageFile(m_form)) {
+        m_AppLog.WriteMessage(QStringLiteral("Unable to find message files"));
+        m_bodies.reportUnreadable(*missing);
+        StopSending();
+        return;
+    }
+    // Without its message a run would mail everybody an empty one.
+    if (!loadBodies()) {
+        StopSending();
+        return;
+    }
+    m_session.secondsToNextPacket = 1;
+    setNextRecipientIndex(1);
+    m_form.setTag(Control::lblTrascorso, QStringLiteral("0"));
+    m_form.setTag(Control::lblRimanente, QStringLiteral("-"));
+    m_session.recipientsLeft = m_recipients.checkedFrom(1);
+    m_AppLog.WriteMessage(QStringLiteral("User started sending messages"));
+}
+
+bool SendingEngine::loadBodies()
+{
+    m_bodies.empty();
+    m_bodiesLoaded = m_bodies.LoadTextBody() && m_bodies.LoadHtmlBody();
+    return m_bodiesLoaded;
+}
+
+void SendingEngine::ConnectForPacket()
+{
+    m_SMTP.Reset();
+    const QString server = m_form.text(Control::txtServer);
+    const qsizetype colon = server.indexOf(u':');
+    const QString portText = colon < 0 ? QString() : server.mid(colon + 1);
+    const auto port =
+        colon < 0 ? std::optional<qint64>(StandardPort) : wholeNumber(portText, 1, HighestPort);
+    m_SMTP.Server = server.left(colon < 0 ? server.size() : colon);
+    m_SMTP.Port = static_cast<qint32>(port.value_or(0));
+    m_sessionIsOfThisRun = true;
+    if (port)
+        m_SMTP.Connect();
+    m_AppLog.WriteMessage(QStringLiteral("Sending procedure started"));
+    if (!port) {
+        SMTP_SmtpError(static_cast<qint32>(SmtpErrorNumber::BadPort),
+                       Texts::tr("'%1' is not a port number from 1 to 65535").arg(portText));
+    }
+}
