@@ -6,7 +6,6 @@
 namespace {
 
 constexpr int SeparatorLength = 50;
-constexpr qint64 BlockLength = 255;
 
 } // namespace
 
@@ -57,13 +56,7 @@ void CLog::GetLog(QString &txt)
         return;
     const qint64 writePosition = m_file.pos();
     m_file.seek(0);
-    QByteArray content;
-    while (!m_file.atEnd()) {
-        const QByteArray block = m_file.read(BlockLength);
-        if (block.isEmpty())
-            break;
-        content += block;
-    }
+    const QByteArray content = m_file.readAll();
     m_file.seek(writePosition);
     // Lines are encoded one by one, so they are decoded one by one.
     for (qsizetype start = 0; start < content.size();) {
