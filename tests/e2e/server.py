@@ -1,0 +1,193 @@
+"""An SMTP server in this process: it records what it takes and fails where a test wants it to."""
+
+import asyncio
+import email
+import threading
+from collections import Counter
+from dataclasses import dataclass
+from email import policy
+
+from aiosmtpd.smtp import SMTP
+
+# Where a server can fail: at its greeting, at a command, or at the reply to the content.
+POINTS = ("greeting", "EHLO", "MAIL", "RCPT", "DATA", "content")
+
+
+@dataclass
+class Received:
+    """A message as it came, with its envelope."""
+
+    connection: int
+    sender: str
+    recipients: list
+    content: bytes
+
+    @property
+    def message(self):
+        """The message as Python's email package reads it."""
+        return email.message_from_bytes(self.content, policy=policy.default)
+
+
+class Failure:
+    """What a server does instead of its reply."""
+
+    def __init__(self, reply=b"", closes=False, hangs=False):
+        self.reply = reply
+        self.closes = closes
+        self.hangs = hangs
+
+
+REFUSES = Failure(b"550 5.7.1 Not here\r\n")
+REFUSES_FOR_NOW = Failure(b"451 4.3.0 Not now\r\n")
+CLOSES = Failure(closes=True)
+CLOSES_WITH_421 = Failure(b"421 4.3.2 Shutting down\r\n", closes=True)
+TALKS_GARBAGE = Failure(b"\x00\xff what?\r\n")
+NEVER_ENDS_ITS_LINE = Failure(b"250 " + b"x" * 1000000)
+SAYS_NOTHING = Failure(hangs=True)
+
+
+class Dialogue(SMTP):
+    """One connection."""
+
+    def __init__(self, server):
+        super().__init__(
+            server, data_size_limit=0, enable_SMTPUTF8=True, hostname="e2e.example", loop=server.loop
+        )
+        self.server = server
+        self.number = 0
+        # The commands below stand in for those of the base class.
+        for verb in ("EHLO", "HELO", "MAIL", "RCPT", "DATA"):
+            self._smtp_methods[verb] = self._failing(verb, self._smtp_methods[verb])
+
+    def connection_made(self, transport):
+        self.number = self.server.count_connection()
+        super().connection_made(transport)
+
+    async def _handle_client(self):
+        if not await self._fails("greeting"):
+            await super()._handle_client()
+
+    def _failing(self, verb, method):
+        async def run(argument):
+            if not await self._fails(verb):
+                await method(argument)
+
+        return run
+
+    async def _fails(self, point):
+        """Does what the test wants at this point; whether anything."""
+        failure = self.server.failure_at(point)
+        if failure is None:
+            return False
+        self.transport.write(failure.reply)
+        if failure.hangs:
+            await asyncio.Event().wait()
+        if failure.closes:
+            self.transport.close()
+        return True
+
+    async def content_fails(self):
+        """The same for the reply to the content, as the text of the reply."""
+        failure = self.server.failure_at("content")
+        if failure is None:
+            return None
+        if failure.hangs:
+            await asyncio.Event().wait()
+        if failure.closes:
+            self.transport.write(failure.reply)
+            self.transport.close()
+            return "250 nobody reads this"
+        return failure.reply.removesuffix(b"\r\n").decode("latin-1")
+
+
+class Server:
+    """Runs in a thread of its own, within a `with`."""
+
+    def __init__(self, extensions=()):
+        self.extensions = list(extensions)
+        self.received = []
+        self.connections = 0
+        self.commands = Counter()
+        self.failures = {}
+        self.refused_addresses = {}
+        self.on_command = lambda number: None
+        self._count = 0
+
+    def __enter__(self):
+        self.loop = asyncio.new_event_loop()
+        self._thread = threading.Thread(target=self.loop.run_forever)
+        self._thread.start()
+        listening = asyncio.run_coroutine_threadsafe(
+            self.loop.create_server(self._dialogue, "127.0.0.1", 0), self.loop
+        )
+        self._listening = listening.result()
+        self.port = self._listening.sockets[0].getsockname()[1]
+        self.address = f"127.0.0.1:{self.port}"
+        return self
+
+    def __exit__(self, *_):
+        asyncio.run_coroutine_threadsafe(self._end(), self.loop).result()
+        self.loop.call_soon_threadsafe(self.loop.stop)
+        self._thread.join()
+        self.loop.close()
+
+    async def _end(self):
+        self._listening.close()
+        others = [task for task in asyncio.all_tasks() if task is not asyncio.current_task()]
+        for task in others:
+            task.cancel()
+        await asyncio.gather(*others, return_exceptions=True)
+
+    def _dialogue(self):
+        return Dialogue(self)
+
+    def fail(self, point, failure, times=1, after=0):
+        """Fails at a point a number of times, after it has not failed so often."""
+        self.failures[point] = [None] * after + [failure] * times
+
+    def restart_count(self):
+        """Numbers the commands from 1 again."""
+        self._count = 0
+
+    # What the dialogues call.
+
+    def count_connection(self):
+        """The number of a new connection."""
+        self.connections += 1
+        return self.connections
+
+    def failure_at(self, point):
+        """What to do at this point this time; None for nothing."""
+        self.commands[point] += 1
+        self._count += 1
+        self.on_command(self._count)
+        planned = self.failures.get(point)
+        return planned.pop(0) if planned else None
+
+    async def handle_EHLO(self, dialogue, session, envelope, hostname, responses):
+        """Offers the test's extensions besides."""
+        session.host_name = hostname
+        return responses[:-1] + [f"250-{name}" for name in self.extensions] + responses[-1:]
+
+    async def handle_RCPT(self, dialogue, session, envelope, address, options):
+        """Takes an address unless the test has it refused."""
+        if address in self.refused_addresses:
+            return self.refused_addresses[address]
+        envelope.rcpt_tos.append(address)
+        return "250 2.1.5 OK"
+
+    async def handle_DATA(self, dialogue, session, envelope):
+        """Takes a message, or fails."""
+        failure = await dialogue.content_fails()
+        if failure:
+            return failure
+        self.received.append(
+            Received(
+                dialogue.number, envelope.mail_from, envelope.rcpt_tos, envelope.original_content
+            )
+        )
+        return f"250 2.0.0 Taken as {len(self.received)}"
+
+    def recipients(self):
+        """Everybody who got a message, once for each."""
+        return sorted(to for received in self.received for to in received.recipients)
