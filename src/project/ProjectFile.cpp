@@ -55,7 +55,7 @@ void ProjectFile::SaveProject(const QString &path, std::function<void(bool saved
     }
     m_waiting = std::move(save);
     m_engine.turns().close();
-    m_engine.whenSettled([this](const Settlement &settlement) {
+    m_engine.whenSettled([this](const SettledMessage &settlement) {
         if (!m_waiting)
             return;
         WaitingSave settled = *std::exchange(m_waiting, std::nullopt);
@@ -70,15 +70,15 @@ void ProjectFile::finishWaitingSave()
     if (!m_waiting)
         return;
     WaitingSave save = *std::exchange(m_waiting, std::nullopt);
-    apply(m_engine.settlementInDoubt(), save.project);
+    apply(m_engine.settledInDoubt(), save.project);
     m_engine.turns().open();
     write(save);
 }
 
-void ProjectFile::apply(const Settlement &settlement, ProjectData &project)
+void ProjectFile::apply(const SettledMessage &settlement, ProjectData &project)
 {
     int lastPosition = 0;
-    for (const Settlement::Row &settled : settlement.rows) {
+    for (const SettledMessage::Row &settled : settlement.rows) {
         const auto row = std::find_if(project.recipients.begin(), project.recipients.end(),
                                       [&](const Recipient &r) { return r.id == settled.id; });
         if (row == project.recipients.end())

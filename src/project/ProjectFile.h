@@ -56,7 +56,7 @@ private:
     void show(const ProjectData &project);
     void restorePausedRun();
     void write(const WaitingSave &save);
-    static void apply(const Settlement &settlement, ProjectData &project);
+    static void apply(const SettledMessage &settlement, ProjectData &project);
 
     Form &m_form;
     RecipientList &m_recipients;

@@ -41,7 +41,7 @@ void SendingEngine::SMTP_MessageDone(bool Sent)
         m_form.setTag(Control::lblRimanente, secondsText(duration, m_formats.decimalSign()));
     }
     const QString subject = stale ? message.subject : m_form.text(Control::txtOggetto);
-    Settlement settlement;
+    SettledMessage settlement;
     int lastPosition = 0;
     for (std::size_t place = 0; place < message.rows.size(); ++place) {
         const MessageInFlight::Row &row = message.rows[place];
@@ -68,9 +68,9 @@ void SendingEngine::SMTP_MessageDone(bool Sent)
     settle(settlement);
 }
 
-Settlement SendingEngine::settlementInDoubt() const
+SettledMessage SendingEngine::settledInDoubt() const
 {
-    Settlement settlement;
+    SettledMessage settlement;
     if (m_inFlight) {
         for (const MessageInFlight::Row &row : m_inFlight->rows)
             settlement.rows.push_back({row.id, stateText(RowState::Sending)});
@@ -79,9 +79,9 @@ Settlement SendingEngine::settlementInDoubt() const
 }
 
 // Marks the rows of the message that an error broke off.
-Settlement SendingEngine::takeBrokenMessage()
+SettledMessage SendingEngine::takeBrokenMessage()
 {
-    Settlement settlement = settlementInDoubt();
+    SettledMessage settlement = settledInDoubt();
     const MessageInFlight message = *std::exchange(m_inFlight, std::nullopt);
     const QList<ServerReply> replies = m_SMTP.lastReplies();
     // Rows that the server never took go back to "Waiting": they are certain not to have been
@@ -118,7 +118,7 @@ void SendingEngine::SMTP_SmtpError(qint32 Number, const QString &Description)
         return;
     }
     const auto settlement =
-        endsMessage ? std::optional<Settlement>(takeBrokenMessage()) : std::nullopt;
+        endsMessage ? std::optional<SettledMessage>(takeBrokenMessage()) : std::nullopt;
     // There is no blank before "(" and none behind "Error": both are meant so.
     m_AppLog.WriteMessage(QLatin1String("SMTP Error: ") + Description + u'(' +
                           QString::number(Number) + u')');

@@ -35,7 +35,7 @@ struct MessageInFlight
 };
 
 /// How a message in flight ended, for whoever waited for it.
-struct Settlement
+struct SettledMessage
 {
     struct Row
     {

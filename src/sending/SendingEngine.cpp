@@ -58,12 +58,12 @@ void SendingEngine::startNewRun()
     m_sessionIsOfThisRun = false;
 }
 
-void SendingEngine::whenSettled(std::function<void(const Settlement &)> then)
+void SendingEngine::whenSettled(std::function<void(const SettledMessage &)> then)
 {
     m_whenSettled.push_back(std::move(then));
 }
 
-void SendingEngine::settle(const Settlement &settlement)
+void SendingEngine::settle(const SettledMessage &settlement)
 {
     const auto waiting = std::exchange(m_whenSettled, {});
     for (const auto &then : waiting)

@@ -86,9 +86,9 @@ public:
 
     [[nodiscard]] bool messageInFlight() const { return m_inFlight.has_value(); }
     /// The rows of the message in flight as they are while nobody knows what became of it.
-    [[nodiscard]] Settlement settlementInDoubt() const;
+    [[nodiscard]] SettledMessage settledInDoubt() const;
     /// Calls back once, when the message in flight is settled.
-    void whenSettled(std::function<void(const Settlement &)> then);
+    void whenSettled(std::function<void(const SettledMessage &)> then);
     [[nodiscard]] Turns &turns() { return m_turns; }
 
 Q_SIGNALS:
@@ -121,8 +121,8 @@ private:
     void SMTP_MessageDone(bool Sent);
     void SMTP_SmtpError(qint32 Number, const QString &Description);
     [[nodiscard]] bool isStale(const MessageInFlight &message) const;
-    [[nodiscard]] Settlement takeBrokenMessage();
-    void settle(const Settlement &settlement);
+    [[nodiscard]] SettledMessage takeBrokenMessage();
+    void settle(const SettledMessage &settlement);
 
     // Pacing
     void Timer_Timer();
@@ -157,7 +157,7 @@ private:
 
     SendSession m_session;
     std::optional<MessageInFlight> m_inFlight;
-    std::vector<std::function<void(const Settlement &)>> m_whenSettled;
+    std::vector<std::function<void(const SettledMessage &)>> m_whenSettled;
     Turns m_turns;
     quint64 m_controlRow = 0;
     quint32 m_startedRun = 0;          ///< the number of the run that started last

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "base/Clock.h"
+#include "base/CodePage.h"
+#include "base/RegionalFormats.h"
+#include "cli/Output.h"
+#include "log/CLog.h"
+#include "project/Workspace.h"
+#include "settings/SettingsStore.h"
+#include "smtp/MessageComposer.h"
+#include "smtp/Smtp.h"
+
+/// What the commands are given from outside.
+struct CliSurroundings
+{
+    SettingsStore &settings;
+    Smtp &SMTP;
+    MessageComposer &composer;
+    const Clock &clock;
+    const RegionalFormats &formats;
+    const CodePage &codePage;
+    SecondTimer &Timer;
+    SecondTimer &Timer2;
+    QString programFolder;
+    QString computerName;
+    Output &output;
+
+    /// The surroundings of a workspace for a command: English, whatever the setting says.
+    [[nodiscard]] Surroundings forWorkspace(Prompts &prompts, CLog &AppLog) const
+    {
+        return {Language::English, prompts,  AppLog, settings, SMTP,          clock,
+                formats,           codePage, Timer,  Timer2,   programFolder, computerName};
+    }
+    /// A log for commands that leave no trace.
+    [[nodiscard]] CLog closedLog() const { return {clock, formats, codePage}; }
+};

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QByteArray>
+#include <QElapsedTimer>
+#include <QString>
+
+/// What the commands say: results to standard output, messages to standard error, and while a
+/// person watches, one line at the bottom that shows how far a run is.
+class Output
+{
+public:
+    Output();
+
+    void result(const QString &line);
+    void bytes(const QByteArray &content);
+    void message(const QString &line);
+
+    /// Shows how many of the rows are done, and a text. Does nothing without a terminal.
+    void showProgress(int done, int total, const QString &text);
+    /// Takes that line away.
+    void clearProgress();
+    /// Whether a new line of progress would be seen, or would only flicker.
+    [[nodiscard]] bool progressIsDue() const;
+    void flush();
+
+private:
+    bool m_hasTerminal;
+    bool m_showsProgress = false;
+    QElapsedTimer m_sinceProgress;
+};

@@ -1,0 +1,244 @@
+#include "cli/SendCommand.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace {
+
+bool isSentOrInDoubt(const Recipient &row)
+{
+    const auto state = stateOfWord(row.state);
+    return state == RowState::Sent || state == RowState::Sending;
+}
+
+QString jsonLine(const QJsonObject &object)
+{
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
+} // namespace
+
+SendCommand::SendCommand(const SendOptions &options, const CliSurroundings &from)
+    : m_options(options),
+      m_output(from.output),
+      m_prompts(from.output, options.yes),
+      m_AppLog(from.programFolder, from.clock, from.formats, from.codePage),
+      m_workspace(from.forWorkspace(m_prompts, m_AppLog))
+{
+    const SendingEngine &engine = m_workspace.engine;
+    connect(&engine, &SendingEngine::rowDone, this, &SendCommand::showRow);
+    connect(&engine, &SendingEngine::runEnded, this, [this] { endRun(codeOfEndedRun()); });
+    connect(&engine, &SendingEngine::runFailed, this, [this] { endRun(ExitCode::SessionError); });
+    connect(&m_workspace.form, &Form::changed, this, [this](Control control) {
+        if (control == Control::lblTimer || control == Control::lblTrascorso)
+            showProgress();
+    });
+}
+
+SendCommand::~SendCommand()
+{
+    m_workspace.bodies.emptyWorkingFolder();
+}
+
+void SendCommand::start()
+{
+    switch (m_workspace.projectCommands.open(m_options.project)) {
+    case LoadOutcome::Refused:
+    case LoadOutcome::LoadedInPart:
+        finish(ExitCode::Refused);
+        return;
+    case LoadOutcome::Loaded:
+        startStopped();
+        return;
+    case LoadOutcome::LoadedPaused:
+        m_resumed = true;
+        m_workspace.engine.cmdPausa_Click();
+        begun();
+        return;
+    }
+}
+
+void SendCommand::startStopped()
+{
+    const auto &rows = m_workspace.recipients.rows();
+    const auto done = std::count_if(rows.begin(), rows.end(), isSentOrInDoubt);
+    if (done > 0 && !m_options.rest && !m_options.again) {
+        m_output.message(QStringLiteral("%1 recipients of this project are marked \"Sent\" or "
+                                        "\"Sending...\". Say --rest to leave them out, or --again "
+                                        "to send to them again.")
+                             .arg(done));
+        finish(ExitCode::Refused);
+        return;
+    }
+    if (m_options.rest && !leaveOutThoseSent()) {
+        m_output.message(QStringLiteral("No recipient is left to send to."));
+        finish(ExitCode::Success);
+        return;
+    }
+    m_workspace.engine.cmdAvvio_Click();
+    m_prompts.whenQuiet([this] { begun(); });
+}
+
+// Whether any checked row is left.
+bool SendCommand::leaveOutThoseSent()
+{
+    RecipientList &list = m_workspace.recipients;
+    std::vector<int> done;
+    for (int position = 1; position <= list.count(); ++position) {
+        if (isSentOrInDoubt(list.at(position)))
+            done.push_back(position);
+    }
+    m_workspace.recipientCommands.cmdUncheckAll_Click(done);
+    return list.checkedFrom(1) > 0;
+}
+
+void SendCommand::begun()
+{
+    if (m_finished)
+        return;
+    const RunState state = m_workspace.form.runState();
+    if (state == RunState::Idle || state == RunState::Paused) {
+        finish(ExitCode::Refused);
+        return;
+    }
+    m_running = true;
+    m_total = m_workspace.recipients.checkedFrom(m_workspace.engine.nextRecipientIndex());
+    showProgress();
+}
+
+void SendCommand::showRow(int position)
+{
+    const Recipient &row = m_workspace.recipients.at(position);
+    const auto state = stateOfWord(row.state);
+    m_sent += state == RowState::Sent ? 1 : 0;
+    m_refused += state == RowState::Error ? 1 : 0;
+    if (m_options.json) {
+        m_output.result(jsonLine({{QStringLiteral("row"), row.number},
+                                  {QStringLiteral("name"), row.name},
+                                  {QStringLiteral("address"), row.address},
+                                  {QStringLiteral("state"), row.state},
+                                  {QStringLiteral("code"), row.reply.code},
+                                  {QStringLiteral("enhanced"), row.reply.enhanced},
+                                  {QStringLiteral("reply"), row.reply.text}}));
+    } else {
+        constexpr int NumberWidth = 6;
+        constexpr int StateWidth = 8;
+        m_output.result(row.number.rightJustified(NumberWidth) + QLatin1String("  ") +
+                        row.state.leftJustified(StateWidth) + QLatin1String("  ") + row.name +
+                        QLatin1String(" <") + row.address + QLatin1String(">  ") +
+                        row.reply.toText());
+    }
+    if (m_output.progressIsDue())
+        showProgress();
+}
+
+void SendCommand::showProgress()
+{
+    const Form &form = m_workspace.form;
+    if (!m_running)
+        return;
+    m_output.showProgress(m_sent + m_refused, m_total,
+                          QStringLiteral("%1  total time %2, remaining %3")
+                              .arg(form.text(Control::lblTimer), form.text(Control::lblTrascorso),
+                                   form.text(Control::lblRimanente)));
+}
+
+ExitCode SendCommand::codeOfEndedRun() const
+{
+    // Rows refused before a pause count too.
+    const auto &rows = m_workspace.recipients.rows();
+    const bool anyRefused =
+        m_refused > 0 || std::any_of(rows.begin(), rows.end(), [](const Recipient &row) {
+            return row.checked && stateOfWord(row.state) == RowState::Error;
+        });
+    return anyRefused ? ExitCode::SomeRefused : ExitCode::Success;
+}
+
+void SendCommand::endRun(ExitCode code)
+{
+    if (!m_running || m_finished)
+        return;
+    m_running = false;
+    const auto &rows = m_workspace.recipients.rows();
+    const bool failed = code == ExitCode::SessionError;
+    // Who broke off in the middle must not begin at the first recipient again.
+    const bool anyHandedOver = std::any_of(rows.begin(), rows.end(), isSentOrInDoubt);
+    if (failed && m_interrupted) {
+        // What the interruption saved is the better record: it can go on.
+        summarize(code);
+        finish(code);
+    } else if (m_options.save || m_resumed || m_interrupted || (failed && anyHandedOver)) {
+        writeBack(code);
+    } else {
+        summarize(code);
+        finish(code);
+    }
+}
+
+void SendCommand::writeBack(ExitCode code)
+{
+    m_workspace.projectFile.SaveProject(m_options.project, [this, code](bool saved) {
+        summarize(code);
+        finish(saved ? code : ExitCode::SessionError);
+    });
+}
+
+void SendCommand::interrupt()
+{
+    if (m_finished)
+        return;
+    if (!m_running) {
+        finish(ExitCode::Interrupted);
+        return;
+    }
+    if (m_interrupted) {
+        m_workspace.projectFile.finishWaitingSave();
+        finish(ExitCode::Interrupted);
+        return;
+    }
+    m_interrupted = true;
+    m_output.message(QStringLiteral("Pausing after the message in flight; Ctrl-C again ends at "
+                                    "once."));
+    m_workspace.engine.cmdPausa_Click();
+    m_workspace.projectFile.SaveProject(m_options.project, [this](bool saved) {
+        // The message was perhaps the last one: the event that ends the run comes first.
+        m_prompts.whenQuiet([this, saved] {
+            if (m_finished)
+                return;
+            summarize(ExitCode::Interrupted);
+            finish(saved ? ExitCode::Interrupted : ExitCode::SessionError);
+        });
+    });
+}
+
+void SendCommand::summarize(ExitCode code)
+{
+    if (m_options.json) {
+        m_output.result(jsonLine({{QStringLiteral("total"), m_total},
+                                  {QStringLiteral("sent"), m_sent},
+                                  {QStringLiteral("refused"), m_refused},
+                                  {QStringLiteral("exit"), static_cast<int>(code)}}));
+        return;
+    }
+    QString line = QStringLiteral("%1 of %2 sent").arg(m_sent).arg(m_total);
+    if (m_refused > 0)
+        line += QStringLiteral(", %1 refused").arg(m_refused);
+    if (code == ExitCode::SessionError)
+        line += QStringLiteral("; the session failed");
+    else if (code == ExitCode::Interrupted)
+        line += QStringLiteral("; paused, the project is saved: %1").arg(m_options.project);
+    m_output.result(line);
+}
+
+void SendCommand::finish(ExitCode code)
+{
+    if (m_finished)
+        return;
+    m_finished = true;
+    m_running = false;
+    m_output.clearProgress();
+    m_output.flush();
+    Q_EMIT finished(code);
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "cli/CliPrompts.h"
+#include "cli/CliSurroundings.h"
+#include "cli/CommandLine.h"
+#include "project/Workspace.h"
+
+#include <QObject>
+
+/// `send`: a run without a window, from Start or, for a project that was saved paused, from Resume.
+class SendCommand : public QObject
+{
+    Q_OBJECT
+
+public:
+    SendCommand(const SendOptions &options, const CliSurroundings &from);
+    ~SendCommand() override;
+
+    void start();
+    /// Ctrl-C: the first time pauses after the message in flight and saves the project, the second
+    /// time ends at once, with the project saved as paused and the cursor past that message.
+    void interrupt();
+
+Q_SIGNALS:
+    void finished(ExitCode code);
+
+private:
+    void startStopped();
+    [[nodiscard]] bool leaveOutThoseSent();
+    void begun();
+    void showRow(int position);
+    void showProgress();
+    void endRun(ExitCode code);
+    void writeBack(ExitCode code);
+    void summarize(ExitCode code);
+    void finish(ExitCode code);
+    [[nodiscard]] ExitCode codeOfEndedRun() const;
+
+    SendOptions m_options;
+    Output &m_output;
+    CliPrompts m_prompts;
+    CLog m_AppLog;
+    Workspace m_workspace;
+    bool m_resumed = false;
+    bool m_running = false;
+    bool m_interrupted = false;
+    bool m_finished = false;
+    int m_total = 0;
+    int m_sent = 0;
+    int m_refused = 0;
+};
