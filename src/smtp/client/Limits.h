@@ -12,7 +12,10 @@ struct Limits
     /// Connection, TLS and greeting together.
     Duration opening = std::chrono::seconds(60);
     // RFC 5321, section 4.5.3.2, gives the following.
-    Duration command = std::chrono::minutes(5);     ///< EHLO, RSET, MAIL, RCPT and all others
+    Duration hello = std::chrono::minutes(5); ///< EHLO, HELO
+    Duration reset = std::chrono::minutes(5);
+    Duration mail = std::chrono::minutes(5);
+    Duration recipient = std::chrono::minutes(5);
     Duration dataCommand = std::chrono::minutes(2); ///< DATA, up to its 354
     Duration dataBlock = std::chrono::minutes(3);   ///< until the network takes more of the message
     Duration content = std::chrono::minutes(10);    ///< the reply to the message itself
@@ -23,19 +26,23 @@ struct Limits
     qsizetype replyLineLength = 4096;
     int replyLines = 256;
 
-    /// How long the reply to that command may take.
+    /// How long the reply to that command may take; all others share one limit.
     [[nodiscard]] Duration forReplyTo(SmtpVerb verb) const
     {
         switch (verb) {
+        case SmtpVerb::Rset:
+            return reset;
+        case SmtpVerb::Mail:
+            return mail;
+        case SmtpVerb::Rcpt:
+            return recipient;
         case SmtpVerb::Data:
             return dataCommand;
         case SmtpVerb::Bdat:
         case SmtpVerb::Content:
             return content;
-        case SmtpVerb::Quit:
-            return quit;
         default:
-            return command;
+            return hello;
         }
     }
 };

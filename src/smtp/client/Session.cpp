@@ -254,7 +254,7 @@ void Session::moveLimit()
     switch (m_phase) {
     case Phase::Ehlo:
     case Phase::Helo:
-        m_watchdog.start(m_limits.command);
+        m_watchdog.start(m_limits.hello);
         break;
     case Phase::Mail:
         m_watchdog.start(m_unwritten > 0 ? m_limits.dataBlock

@@ -1,0 +1,158 @@
+#include "smtp/Dialogue.h"
+
+#include <QHash>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString errorName(qint32 number)
+{
+    static const QHash<SmtpErrorNumber, QString> Names = {
+        {SmtpErrorNumber::BadPort, u"bad port"_s},
+        {SmtpErrorNumber::NoServer, u"no server"_s},
+        {SmtpErrorNumber::NotConnected, u"not connected"_s},
+        {SmtpErrorNumber::CannotConnect, u"cannot connect"_s},
+        {SmtpErrorNumber::ServerRefuses, u"server refuses"_s},
+        {SmtpErrorNumber::Closed, u"closed"_s},
+        {SmtpErrorNumber::TimedOut, u"timed out"_s},
+        {SmtpErrorNumber::Unreadable, u"unreadable"_s},
+        {SmtpErrorNumber::NotTaken, u"not taken"_s},
+        {SmtpErrorNumber::InDoubt, u"in doubt"_s},
+    };
+    return Names.value(static_cast<SmtpErrorNumber>(number), u"unknown"_s);
+}
+
+} // namespace
+
+QString repliesText(const QList<ServerReply> &replies)
+{
+    QStringList texts;
+    for (const ServerReply &reply : replies)
+        texts += reply.isEmpty() ? u"-"_s : reply.toText();
+    return texts.join(u" | ");
+}
+
+Dialogue::Dialogue(const Limits &limits) : client(clock, limits)
+{
+    QObject::connect(&client, &Smtp::StatusChanged, &client, [this](qint32 code) {
+        m_events += code == Smtp::Ready ? u"ready"_s : u"status %1"_s.arg(code);
+    });
+    QObject::connect(&client, &Smtp::MessageDone, &client, [this](bool sent) {
+        m_events += (sent ? u"sent: "_s : u"refused: "_s) + repliesText(client.lastReplies());
+    });
+    QObject::connect(&client, &Smtp::SmtpError, &client,
+                     [this](qint32 number, const QString &description) {
+                         QString event = u"error: "_s + errorName(number);
+                         if (client.mayHaveBeenAccepted())
+                             event += u", perhaps accepted"_s;
+                         if (description.contains(u'\n') || description.isEmpty())
+                             event += u", not one line"_s;
+                         if (!client.lastReplies().isEmpty())
+                             event += u": "_s + repliesText(client.lastReplies());
+                         m_events += event;
+                     });
+}
+
+void Dialogue::setMessage()
+{
+    client.RecipientAddress = recipients;
+    client.RecipientList = isGroup;
+    client.FromAddress = u"sender@example.org"_s;
+    client.Subject = u"Greetings"_s;
+    client.DateText = u"Sat, 21 Nov 2026 09:00:00"_s;
+    client.TextBody = text;
+}
+
+QString Dialogue::play(const QString &script)
+{
+    const QStringList lines = script.split(u'\n', Qt::SkipEmptyParts);
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const QString problem = step(lines[i].trimmed());
+        if (!problem.isEmpty())
+            return u"line %1, \"%2\": %3\nevents: %4"_s.arg(
+                QString::number(i + 1), lines[i].trimmed(), problem, m_events.join(u"; "));
+    }
+    return nothingLeft();
+}
+
+QString Dialogue::step(const QString &line)
+{
+    const QString words = line.sliced(std::min<qsizetype>(3, line.size()));
+    if (line.startsWith(u"E: "))
+        return engineCalls(words);
+    if (line.startsWith(u"E< "))
+        return engineHears(words);
+    if (line.startsWith(u"C: "))
+        return clientSays(words);
+    if (line.startsWith(u"S: "))
+        return serverSays(words);
+    return line.isEmpty() ? QString() : u"no such step"_s;
+}
+
+QString Dialogue::engineCalls(const QString &method)
+{
+    const qsizetype before = m_events.size();
+    if (method == u"Connect") {
+        client.Server = u"127.0.0.1"_s;
+        client.Port = server.port();
+        client.Connect();
+    } else if (method == u"Send") {
+        setMessage();
+        m_content = client.compose().value_or(QByteArray());
+        client.Send();
+    } else if (method == u"Reset") {
+        client.Reset();
+    } else if (method == u"Disconnect") {
+        client.Disconnect();
+    } else {
+        return u"no such method"_s;
+    }
+    return m_events.size() == before ? QString() : u"an event from inside a call"_s;
+}
+
+QString Dialogue::engineHears(const QString &event)
+{
+    if (!FakeServer::waitUntil([this] { return !m_events.isEmpty(); }))
+        return u"the engine hears nothing"_s;
+    return m_events.first() == event ? (m_events.removeFirst(), QString())
+                                     : u"the engine hears another event"_s;
+}
+
+QString Dialogue::clientSays(const QString &line)
+{
+    if (line == u"<connects>")
+        return server.takeConnection();
+    if (line == u"<closes>")
+        return server.hear(FakeServer::Closed.toByteArray());
+    if (line == u"<message>")
+        return server.hear(m_content);
+    if (line == u"<stuffed>")
+        return server.hear(Segment{m_content}.stuffed());
+    QByteArray bytes = line.toUtf8() + "\r\n";
+    return server.hear(bytes.replace("<size>", QByteArray::number(m_content.size())));
+}
+
+QString Dialogue::serverSays(const QString &line)
+{
+    if (line == u"<nothing>")
+        return {};
+    const QString problem = nothingLeft();
+    if (!problem.isEmpty())
+        return problem;
+    if (line == u"<closes>")
+        server.close();
+    else if (line == u"<endless line>")
+        server.say("250 " + QByteArray(Limits().replyLineLength, 'x'));
+    else
+        server.say(line.toUtf8() + "\r\n");
+    return {};
+}
+
+QString Dialogue::nothingLeft()
+{
+    const QString problem = server.silence();
+    if (problem.isEmpty() && !m_events.isEmpty())
+        return u"the engine heard more: "_s + m_events.join(u"; ");
+    return problem;
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QTcpServer>
+
+#include <chrono>
+#include <functional>
+
+class QTcpSocket;
+
+/// A server on a free port of this machine that does what the test says, with three verbs: it says
+/// something, the client must say something, nobody says anything. Closing a connection leaves a
+/// mark in the stream, so that its place among the bytes counts too. What the client says is held
+/// against the script byte by byte. A verb that can fail returns what went wrong, empty when
+/// nothing did.
+class FakeServer
+{
+public:
+    /// Stands in the stream where the client closed the connection.
+    static constexpr QByteArrayView Closed = "<closed>";
+
+    FakeServer();
+
+    [[nodiscard]] quint16 port() const { return m_server.serverPort(); }
+    /// How many connections the script has taken.
+    [[nodiscard]] int connectionCount() const { return m_connectionCount; }
+
+    /// The client connects; from here on this is the connection spoken of.
+    [[nodiscard]] QString takeConnection();
+    /// The client says exactly this.
+    [[nodiscard]] QString hear(const QByteArray &bytes);
+    /// The client has said nothing that the script does not know, and says nothing more of its own
+    /// accord.
+    [[nodiscard]] QString silence();
+    void say(const QByteArray &bytes);
+    void close();
+
+    /// Lets client and server do all that they can do without waiting for a timer.
+    static void settle();
+    /// Runs the event loop until it is true; false when it does not become so.
+    [[nodiscard]] static bool waitUntil(const std::function<bool()> &isTrue);
+
+private:
+    QTcpServer m_server;
+    QTcpSocket *m_connection = nullptr;
+    QByteArray m_heard; ///< what the client said and the script has not yet asked for
+    int m_connectionCount = 0;
+};
