@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-/// Whole sessions, from Connect to Disconnect.
+/// Whole sessions in which the server behaves, or refuses in an orderly way.
 class TestDialogue : public QObject
 {
     Q_OBJECT
@@ -10,4 +10,10 @@ class TestDialogue : public QObject
 private Q_SLOTS:
     void dialogue_data();
     void dialogue();
+    void group_data();
+    void group();
+    void messageInFlight_data();
+    void messageInFlight();
+    void endedSession_data();
+    void endedSession();
 };

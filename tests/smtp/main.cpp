@@ -1,20 +1,28 @@
 #include "smtp/TestDialogue.h"
+#include "smtp/TestMailAddress.h"
 #include "smtp/TestMishaps.h"
+#include "smtp/TestReplyReader.h"
+#include "smtp/TestTransaction.h"
 
 #include <QCoreApplication>
 #include <QTest>
 
-#include <memory>
-#include <vector>
+namespace {
+
+template <typename... Tests>
+int runAll(int argc, char **argv)
+{
+    int failures = 0;
+    const auto run = [&](QObject &&test) { failures += QTest::qExec(&test, argc, argv); };
+    (run(Tests()), ...);
+    return failures;
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
-    QCoreApplication app(argc, argv);
-    std::vector<std::unique_ptr<QObject>> tests;
-    tests.push_back(std::make_unique<TestDialogue>());
-    tests.push_back(std::make_unique<TestMishaps>());
-    int failures = 0;
-    for (const auto &test : tests)
-        failures += QTest::qExec(test.get(), argc, argv);
-    return failures;
+    const QCoreApplication app(argc, argv);
+    return runAll<TestReplyReader, TestMailAddress, TestTransaction, TestDialogue, TestMishaps>(
+        argc, argv);
 }

@@ -27,6 +27,11 @@ FakeServer::FakeServer()
     m_server.listen(QHostAddress::LocalHost);
 }
 
+FakeServer::~FakeServer()
+{
+    m_connection = nullptr; // what is closed from here on is closed by nobody's script
+}
+
 void FakeServer::settle()
 {
     // Bytes cross the loopback at once; ten turns are more than any chain of reactions takes.
@@ -60,11 +65,12 @@ QString FakeServer::takeConnection()
         if (socket == m_connection)
             m_heard += socket->readAll();
     };
+    const auto close = [this, socket = m_connection] {
+        if (socket == m_connection)
+            (m_heard += socket->readAll()) += Closed;
+    };
     QObject::connect(m_connection, &QTcpSocket::readyRead, m_connection, read);
-    QObject::connect(m_connection, &QTcpSocket::disconnected, m_connection, [this, read] {
-        read();
-        m_heard += Closed;
-    });
+    QObject::connect(m_connection, &QTcpSocket::disconnected, m_connection, close);
     read();
     return {};
 }

@@ -21,12 +21,16 @@ public:
     static constexpr QByteArrayView Closed = "<closed>";
 
     FakeServer();
+    FakeServer(const FakeServer &) = delete;
+    FakeServer &operator=(const FakeServer &) = delete;
+    ~FakeServer();
 
     [[nodiscard]] quint16 port() const { return m_server.serverPort(); }
     /// How many connections the script has taken.
     [[nodiscard]] int connectionCount() const { return m_connectionCount; }
 
-    /// The client connects; from here on this is the connection spoken of.
+    /// The client connects; from here on this is the connection spoken of, and what the client
+    /// says in an earlier one counts no more.
     [[nodiscard]] QString takeConnection();
     /// The client says exactly this.
     [[nodiscard]] QString hear(const QByteArray &bytes);

@@ -40,6 +40,12 @@ qsizetype enhancedLength(QByteArrayView text, int code)
     return digits() && (at == text.size() || text[at] == ' ') ? at : 0;
 }
 
+qsizetype firstLineLength(const QByteArray &lines)
+{
+    const qsizetype end = lines.indexOf('\n');
+    return end < 0 ? lines.size() : end;
+}
+
 QString printable(QByteArrayView bytes)
 {
     QString text = QString::fromUtf8(bytes);
@@ -55,7 +61,7 @@ ServerReply WireReply::toServerReply(SmtpVerb verb) const
     ServerReply reply;
     reply.verb = verb;
     reply.code = code;
-    const qsizetype length = enhancedLength(lines.left(lines.indexOf('\n')), code);
+    const qsizetype length = enhancedLength(lines.first(firstLineLength(lines)), code);
     const QByteArray enhanced = lines.left(length);
     reply.enhanced = QString::fromLatin1(enhanced);
     for (qsizetype begin = 0; begin <= lines.size();) {
