@@ -6,6 +6,8 @@ import threading
 from collections import Counter
 from dataclasses import dataclass
 from email import policy
+from email.header import decode_header, make_header
+from email.utils import parseaddr
 
 from aiosmtpd.smtp import SMTP
 
@@ -26,6 +28,15 @@ class Received:
     def message(self):
         """The message as Python's email package reads it."""
         return email.message_from_bytes(self.content, policy=policy.default)
+
+    @property
+    def sender_shown(self):
+        """Name and address of From. Python 3.11 puts blanks between the encoded words of a long
+        name, which its older functions do not.
+        """
+        line = email.message_from_bytes(self.content, policy=policy.compat32)["From"]
+        name, address = parseaddr(line)
+        return str(make_header(decode_header(name))), address
 
 
 class Failure:
@@ -112,6 +123,7 @@ class Server:
         self.refused_addresses = {}
         self.on_command = lambda number: None
         self._count = 0
+        self._dialogues = []
 
     def __enter__(self):
         self.loop = asyncio.new_event_loop()
@@ -137,9 +149,13 @@ class Server:
         for task in others:
             task.cancel()
         await asyncio.gather(*others, return_exceptions=True)
+        for dialogue in self._dialogues:
+            if dialogue.transport:
+                dialogue.transport.abort()
 
     def _dialogue(self):
-        return Dialogue(self)
+        self._dialogues.append(Dialogue(self))
+        return self._dialogues[-1]
 
     def fail(self, point, failure, times=1, after=0):
         """Fails at a point a number of times, after it has not failed so often."""

@@ -20,7 +20,7 @@ def list_of_example():
 
 
 class Example(EndToEnd):
-    """One run of it serves all the tests."""
+    """Each test sends it."""
 
     def setUp(self):
         super().setUp()

@@ -42,10 +42,9 @@ class Messages(EndToEnd):
             self.server.received.clear()
             # A comma or a leading quote cannot stand in these fields of the file.
             self.send(self.project(self.server, rows(1), sender_name=name, subject=name))
-            message = self.server.received[0].message
-            self.assertEqual(message["Subject"], name)
-            self.assertEqual(message["From"].addresses[0].display_name, name)
-            self.assertEqual(message["From"].addresses[0].addr_spec, "sender@sorvanta.example")
+            received = self.server.received[0]
+            self.assertEqual(received.message["Subject"], name)
+            self.assertEqual(received.sender_shown, (name, "sender@sorvanta.example"))
 
     def test_html_alone_has_the_text_that_says_so(self):
         html = self.file("letter.html", "<p>Dear *NOME*, città</p>\n")
@@ -71,14 +70,15 @@ class Messages(EndToEnd):
             seen = {part.get_filename(): part.get_payload(decode=True) for part in attachments}
             self.assertEqual(seen, contents)
 
-    def test_pictures_in_subfolders_and_with_odd_names(self):
+    def test_pictures_travel_and_those_of_subfolders_stay_links(self):
         (self.folder / "img").mkdir()
-        pictures = {"img/a.gif": b"GIF89a-a", "città.png": b"PNG-b"}
+        self.file("img/a.gif", b"GIF89a-a")
+        pictures = {"b.gif": b"GIF89a-b", "città.png": b"PNG-c"}
         for name, content in pictures.items():
             self.file(name, content)
         html = self.file(
             "letter.html",
-            '<IMG SRC="IMG/A.gif"><img src="città.png"><img src="img/a.gif"><p>*NOME*</p>\n',
+            '<IMG SRC="B.gif"><img src="città.png"><img src="b.gif"><img src="img/a.gif">*NOME*\n',
         )
         self.send(self.project(self.server, rows(2), html=html))
         for received in self.server.received:
@@ -86,9 +86,9 @@ class Messages(EndToEnd):
             page, *inline = related.iter_parts()
             by_id = {part["Content-ID"].strip("<>"): part.get_content() for part in inline}
             links = [link.split('"')[0] for link in page.get_content().split("cid:")[1:]]
-            self.assertEqual(
-                [by_id[link] for link in links], [b"GIF89a-a", b"PNG-b", b"GIF89a-a"]
-            )
+            self.assertEqual([by_id[link] for link in links], [b"GIF89a-b", b"PNG-c", b"GIF89a-b"])
+            self.assertIn('<IMG SRC="cid:', page.get_content())
+            self.assertIn('<img src="img/a.gif">', page.get_content())
 
     def test_lines_that_begin_with_a_dot_and_long_lines(self):
         body = ".\n..\n.x\n" + "long " * 500 + "\n" + "à" * 2000 + "\n"

@@ -99,6 +99,7 @@ class Outcomes(EndToEnd):
         for point in ("MAIL", "RCPT", "DATA"):
             with self.subTest(point=point):
                 self.server.received.clear()
+                self.path = self.project(self.server, rows(4))
                 self.server.fail(point, CLOSES, times=2, after=1)
                 self.send(self.path, status=3)
                 self.assertEqual(self.server.recipients(), EVERYBODY[:1])
