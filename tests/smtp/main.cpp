@@ -1,5 +1,6 @@
 #include "smtp/TestDialogue.h"
 #include "smtp/TestMailAddress.h"
+#include "smtp/TestMime.h"
 #include "smtp/TestMishaps.h"
 #include "smtp/TestReplyReader.h"
 #include "smtp/TestTransaction.h"
@@ -23,6 +24,6 @@ int runAll(int argc, char **argv)
 int main(int argc, char **argv)
 {
     const QCoreApplication app(argc, argv);
-    return runAll<TestReplyReader, TestMailAddress, TestTransaction, TestDialogue, TestMishaps>(
-        argc, argv);
+    return runAll<TestReplyReader, TestMailAddress, TestTransaction, TestMime, TestDialogue,
+                  TestMishaps>(argc, argv);
 }
