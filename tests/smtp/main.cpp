@@ -1,3 +1,5 @@
+#include "smtp/TestClient.h"
+#include "smtp/TestContract.h"
 #include "smtp/TestDialogue.h"
 #include "smtp/TestMailAddress.h"
 #include "smtp/TestMime.h"
@@ -24,6 +26,6 @@ int runAll(int argc, char **argv)
 int main(int argc, char **argv)
 {
     const QCoreApplication app(argc, argv);
-    return runAll<TestReplyReader, TestMailAddress, TestTransaction, TestMime, TestDialogue,
-                  TestMishaps>(argc, argv);
+    return runAll<TestReplyReader, TestMailAddress, TestTransaction, TestMime, TestContract,
+                  TestClient, TestDialogue, TestMishaps>(argc, argv);
 }

@@ -170,12 +170,12 @@ void Session::pump()
     }
     // A failure inside flush has settled the message already.
     if (m_transaction && m_transaction->isSettled()) {
-        const bool ends = m_transaction->sessionEnds();
+        const QString reason = m_transaction->reasonToEnd();
         settle();
-        if (ends)
-            fail(SmtpErrorNumber::Closed, u"the server cannot take more in this session"_s);
-        else
+        if (reason.isEmpty())
             becomeReady(u"the message is settled"_s);
+        else
+            fail(SmtpErrorNumber::Closed, reason);
     }
 }
 
@@ -192,13 +192,16 @@ void Session::fail(SmtpErrorNumber number, const QString &reason)
 {
     if (m_phase == Phase::Off)
         return;
+    m_fault = {number, reason};
     if (m_transaction) {
+        const QString farewell = m_transaction->reasonToEnd();
+        if (!farewell.isEmpty())
+            m_fault.reason = farewell;
         m_transaction->cut(m_unwritten == 0);
         settle();
     }
     const bool isQuitting = m_phase == Phase::Quit;
     enter(Phase::Off, reason);
-    m_fault = {number, reason};
     m_hasNews = true;
     m_watchdog.stop();
     m_socket.abort();

@@ -148,7 +148,8 @@ bool Transaction::take(const WireReply &reply)
     const Command command = m_awaited.takeFirst();
     if (!fits(command.verb, reply))
         return false;
-    m_said421 = m_said421 || reply.code == 421;
+    if (reply.code == 421)
+        m_farewell = reply.toServerReply(command.verb);
     if (command.verb == SmtpVerb::Bdat || command.verb == SmtpVerb::Content)
         takeFinalReply(command, reply);
     else
@@ -185,7 +186,7 @@ void Transaction::takeEnvelopeReply(const Command &command, const WireReply &rep
             if (m_outcome == Outcome::Open)
                 m_verdict = reply.toServerReply(SmtpVerb::Data);
             decide(Outcome::Refused);
-        } else if (!m_said421) {
+        } else if (m_farewell.isEmpty()) {
             m_toWrite += {SmtpVerb::Content};
         }
     }
@@ -209,6 +210,13 @@ void Transaction::takeFinalReply(const Command &command, const WireReply &reply)
     if (m_outcome == Outcome::Open)
         m_verdict = reply.toServerReply(command.verb);
     decide(Outcome::Refused);
+}
+
+QString Transaction::reasonToEnd() const
+{
+    if (!m_farewell.isEmpty())
+        return u"the server said "_s + m_farewell.toText();
+    return m_chunkingFailed ? u"the server announces CHUNKING and does not know BDAT"_s : QString();
 }
 
 void Transaction::cut(bool allWritten)

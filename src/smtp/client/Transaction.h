@@ -38,8 +38,9 @@ public:
     /// What the server, or this client, said to each recipient, by position. Where the outcome is
     /// neither Accepted nor Refused, only refusals that concern one recipient are there.
     [[nodiscard]] QList<ServerReply> replies() const;
-    /// The server said 421, or may take the message for commands: the session has to end.
-    [[nodiscard]] bool sessionEnds() const { return m_said421 || m_chunkingFailed; }
+    /// Why the session has to end with this message, in plain words: the server said 421, or may
+    /// take the message for commands. Empty when it can go on.
+    [[nodiscard]] QString reasonToEnd() const;
     /// The server announced CHUNKING and does not know BDAT.
     [[nodiscard]] bool chunkingFailed() const { return m_chunkingFailed; }
 
@@ -68,7 +69,7 @@ private:
     bool m_contentTaken = false;
 
     Outcome m_outcome = Outcome::Open;
-    bool m_said421 = false;
+    ServerReply m_farewell; ///< the server's 421
     bool m_chunkingFailed = false;
     bool m_mailAccepted = false;
     qsizetype m_recipientsLeft = 0; ///< RCPT still to be answered
