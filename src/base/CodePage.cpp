@@ -115,11 +115,8 @@ QByteArray CodePage::encode(const QString &text) const
 
 QString CodePage::decode(QByteArrayView bytes) const
 {
-    if (readsAsUtf8(bytes)) {
-        if (bytes.startsWith(ByteOrderMark))
-            bytes = bytes.sliced(ByteOrderMark.size());
-        return QString::fromUtf8(bytes);
-    }
+    if (readsAsUtf8(bytes))
+        return QString::fromUtf8(bytes); // drops the mark
     QString text(bytes.size(), Qt::Uninitialized);
     std::transform(bytes.begin(), bytes.end(), text.begin(), [this](char byte) {
         const auto value = static_cast<unsigned char>(byte);

@@ -57,8 +57,9 @@ tl::expected<QByteArray, FileError> readWholeFile(const QString &path)
 tl::expected<void, FileError> replaceWholeFile(const QString &path, const QByteArray &content)
 {
     QSaveFile file(systemPath(path));
-    // Commit reports every failure of the steps before it.
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
+    // Commit alone would take a file whose last buffer found no room for a whole one.
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
+        !file.flush() || !file.commit())
         return failed(path, file.errorString());
     return {};
 }

@@ -20,11 +20,11 @@ struct Scanned
     QStringView rest;
 };
 
-// Blanks, a sign, digits. Values beyond 18 digits are held at the edge: no range that is asked for
-// reaches so far.
+// Blanks, a sign, digits. Values beyond 17 digits are held at the edge: no range that is asked for
+// reaches so far, and one more digit still fits.
 Scanned scanNumber(QStringView text)
 {
-    constexpr qint64 Edge = 1'000'000'000'000'000'000;
+    constexpr qint64 Edge = 100'000'000'000'000'000;
     while (!text.isEmpty() && isBlank(text.front()))
         text = text.sliced(1);
     bool negative = false;

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QObject>
+
+/// A server's reply as a value.
+class TestServerReply : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void text_data();
+    void text();
+    void positiveRepliesAreThoseOf2xxAnd3xx();
+    void emptyIsNoReplyAtAll();
+};

@@ -1,0 +1,18 @@
+#include "TestCodePage.h"
+#include "TestFiles.h"
+#include "TestInputFields.h"
+#include "TestLines.h"
+#include "TestModMain.h"
+#include "TestNumbers.h"
+#include "TestProgramFolder.h"
+#include "TestRegionalFormats.h"
+#include "TestServerReply.h"
+#include "support/RunTests.h"
+
+int main(int argc, char **argv)
+{
+    if (TestCodePage::runAsSecondProgram(argc, argv))
+        return 0;
+    return runTests<TestCodePage, TestLines, TestInputFields, TestNumbers, TestModMain, TestFiles,
+                    TestProgramFolder, TestRegionalFormats, TestServerReply>(argc, argv);
+}
