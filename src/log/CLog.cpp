@@ -21,13 +21,14 @@ CLog::CLog(const QString &programFolder, const Clock &clock, const RegionalForma
     m_file.setFileName(systemPath(joinPath(programFolder, name)));
     // Without a buffer of our own: when a line reaches the disk is the system's affair, but a
     // program that dies has handed over every line.
-    m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
+    if (!m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+        return;
     // The session begins ON the last byte of the one before, not behind it: its CR takes the place
     // of the earlier LF, so that sessions are set apart by CR CR LF. Readers of these files count
     // on it. In an empty file there is no such byte, and writing begins at the start.
     if (m_file.size() > 0)
         m_file.seek(m_file.size() - 1);
-    writeAsItIs("\r\n" + QByteArray(SeparatorLength, '-') + "\r\n");
+    m_file.write("\r\n" + QByteArray(SeparatorLength, '-') + "\r\n");
     WriteMessage(QStringLiteral("Program started..."));
 }
 
@@ -47,7 +48,15 @@ void CLog::WriteMessage(const QString &Testo)
         m_stamp = m_formats.shortDate(now) + u' ' + m_formats.longTime(now) + QLatin1String("  ");
         m_stampedSecond = second;
     }
-    writeAsItIs(m_codePage.encode(m_stamp + Testo + QLatin1String("\r\n")));
+    const QString entry = m_stamp + Testo + QLatin1String("\r\n");
+    // Each line is encoded by itself: one beyond the code page leaves the others in it.
+    QByteArray bytes;
+    for (qsizetype start = 0; start < entry.size();) {
+        const qsizetype end = entry.indexOf(u'\n', start) + 1;
+        bytes += m_codePage.encode(entry.sliced(start, end - start));
+        start = end;
+    }
+    m_file.write(bytes);
 }
 
 void CLog::GetLog(QString &txt)
@@ -65,10 +74,4 @@ void CLog::GetLog(QString &txt)
         txt += m_codePage.decode(QByteArrayView(content).sliced(start, end - start));
         start = end;
     }
-}
-
-void CLog::writeAsItIs(const QByteArray &bytes)
-{
-    if (m_file.isOpen())
-        m_file.write(bytes);
 }

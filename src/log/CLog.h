@@ -30,8 +30,6 @@ public:
     void GetLog(QString &txt);
 
 private:
-    void writeAsItIs(const QByteArray &bytes);
-
     const Clock &m_clock;
     const RegionalFormats &m_formats;
     const CodePage &m_codePage;
