@@ -4,6 +4,17 @@
 #include "base/Lines.h"
 #include "base/modMain.h"
 
+namespace {
+
+// Stricter than an address typed by hand: nothing is trimmed, and a space before a comment or
+// behind a ";" would become part of the address.
+bool canBeImported(const QString &address)
+{
+    return IsValidEmail(address) && !address.contains(u' ');
+}
+
+} // namespace
+
 RecipientsText readRecipientsText(QStringView text, const QString &waitingWord)
 {
     RecipientsText result;
@@ -23,7 +34,7 @@ RecipientsText readRecipientsText(QStringView text, const QString &waitingWord)
         Recipient row;
         row.name = line->first(nameEnd).toString();
         row.address = address.toString();
-        if (!IsValidEmail(row.address)) {
+        if (!canBeImported(row.address)) {
             result.rejected +=
                 row.name + QLatin1String(" - ") + row.address + QLatin1String("\r\n");
             continue;

@@ -9,7 +9,7 @@
 #include <QCoreApplication>
 
 /// What a recipients file holds, one recipient a line: name ";" address, anything after a further
-/// ";" ignored.
+/// ";" ignored, and what follows "#" in the address. An address with a space is not valid here.
 struct RecipientsText
 {
     std::vector<Recipient> rows; ///< the lines with a valid address, numbered without gaps

@@ -1,0 +1,11 @@
+#include "TestRecipientCommands.h"
+#include "TestRecipientList.h"
+#include "TestRecipientsFile.h"
+#include "TestStateWords.h"
+#include "support/RunTests.h"
+
+int main(int argc, char **argv)
+{
+    return runTests<TestStateWords, TestRecipientList, TestRecipientCommands, TestRecipientsFile>(
+        argc, argv);
+}
