@@ -212,6 +212,20 @@ E< ready
              QString());
 }
 
+void TestClient::serverClosesWhileTheEngineSends()
+{
+    Dialogue dialogue;
+    QCOMPARE(dialogue.play(Open + u"E< ready\n"_s), QString());
+    // The client has not seen it when it writes the message.
+    dialogue.server.say("421 4.3.2 enough\r\n");
+    dialogue.server.close();
+    dialogue.setMessage();
+    dialogue.client.Send();
+    QCOMPARE(dialogue.server.takeConnection(), QString());
+    dialogue.server.say("554 no\r\n");
+    QCOMPARE(dialogue.play(u"C: <closes>\nE< error: not taken: -"_s), QString());
+}
+
 void TestClient::nobodyCanBeWrittenTo_data()
 {
     QTest::addColumn<QString>("address");

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void statusFlag();
     void messageThatCannotBeBuilt();
     void messageThatIsTooLarge();
+    void serverClosesWhileTheEngineSends();
     void nobodyCanBeWrittenTo_data();
     void nobodyCanBeWrittenTo();
     void quitIsNotWaitedFor();

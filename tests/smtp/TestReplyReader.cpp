@@ -36,6 +36,8 @@ void TestReplyReader::reply_data()
     QTest::newRow("several lines, one empty")
         << "250-one\r\n250-\r\n250\r\n"_qba << 250 << u""_s << u"one"_s;
     QTest::newRow("accents") << "550 perché no\r\n"_qba << 550 << u""_s << u"perché no"_s;
+    QTest::newRow("accents, not UTF-8")
+        << "550 perch\xe9 no\r\n"_qba << 550 << u""_s << u"perché no"_s;
     QTest::newRow("control characters become blanks")
         << QByteArray("550 a\0b\x1b[31mc\rd\r\n", 17) << 550 << u""_s << u"a b [31mc d"_s;
 }

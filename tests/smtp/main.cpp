@@ -1,6 +1,7 @@
 #include "smtp/TestClient.h"
 #include "smtp/TestContract.h"
 #include "smtp/TestDialogue.h"
+#include "smtp/TestHeaders.h"
 #include "smtp/TestMailAddress.h"
 #include "smtp/TestMime.h"
 #include "smtp/TestMishaps.h"
@@ -26,6 +27,6 @@ int runAll(int argc, char **argv)
 int main(int argc, char **argv)
 {
     const QCoreApplication app(argc, argv);
-    return runAll<TestReplyReader, TestMailAddress, TestTransaction, TestMime, TestContract,
-                  TestClient, TestDialogue, TestMishaps>(argc, argv);
+    return runAll<TestReplyReader, TestMailAddress, TestTransaction, TestHeaders, TestMime,
+                  TestContract, TestClient, TestDialogue, TestMishaps>(argc, argv);
 }

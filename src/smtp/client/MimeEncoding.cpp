@@ -45,9 +45,19 @@ GMimeFormatOptions *format()
     return options.get();
 }
 
-QByteArray withCrLf(QByteArray lines)
+/// The lines, ended by LF alone, as they go over the wire.
+QByteArray withCrLf(QByteArrayView lines)
 {
-    return lines.replace("\r\n", "\n").replace('\n', "\r\n");
+    QByteArray result;
+    result.reserve(lines.size() + lines.count('\n'));
+    while (!lines.isEmpty()) {
+        const qsizetype end = lines.indexOf('\n');
+        if (end < 0)
+            return result += lines;
+        (result += lines.first(end)) += "\r\n";
+        lines = lines.sliced(end + 1);
+    }
+    return result;
 }
 
 /// Whether plain words and folding are not enough: the text looks encoded already, or holds a word

@@ -46,9 +46,10 @@ qsizetype firstLineLength(const QByteArray &lines)
     return end < 0 ? lines.size() : end;
 }
 
+/// Servers write UTF-8 (RFC 6531) or what their machine writes; control characters become blanks.
 QString printable(QByteArrayView bytes)
 {
-    QString text = QString::fromUtf8(bytes);
+    QString text = bytes.isValidUtf8() ? QString::fromUtf8(bytes) : QString::fromLatin1(bytes);
     std::ranges::replace_if(
         text, [](QChar c) { return c.category() == QChar::Other_Control; }, u' ');
     return text;

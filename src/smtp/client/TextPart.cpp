@@ -23,9 +23,9 @@ bool hasOnlyCrLf(std::string_view text)
 }
 
 /// CR LF, LF and CR all end a line.
-QByteArray withLf(QByteArray text)
+QByteArray withCrLf(QByteArray text)
 {
-    return text.replace("\r\n", "\n").replace('\r', '\n');
+    return text.replace("\r\n", "\n").replace('\r', '\n').replace('\n', "\r\n");
 }
 
 bool hasShortLines(std::string_view text)
@@ -62,10 +62,10 @@ void TextPart::setText(const QString &text)
     m_text = text;
     m_body = text.toUtf8();
     if (!hasOnlyCrLf(view(m_body)))
-        m_body = withLf(m_body).replace('\n', "\r\n");
+        m_body = withCrLf(m_body);
     const bool isPlain = isPlainAscii(view(m_body)) && hasShortLines(view(m_body));
     if (!isPlain)
-        m_body = quotedPrintable(withLf(m_body));
+        m_body = quotedPrintable(m_body.removeIf([](char c) { return c == '\r'; }));
     m_headers = "Content-Type: text/" + m_subtype +
                 "; charset=utf-8\r\nContent-Transfer-Encoding: " +
                 (isPlain ? "7bit\r\n\r\n" : "quoted-printable\r\n\r\n");
