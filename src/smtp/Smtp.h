@@ -64,7 +64,8 @@ public:
     /// Adds a file to the attachments of the next message; Send empties the list.
     virtual void AddAttachment(const QString &path) = 0;
     /// Transmits one message to every address of RecipientAddress; MessageDone follows, then
-    /// StatusChanged(Ready); or SmtpError.
+    /// StatusChanged(Ready); or SmtpError. Before the session is ready the message waits for it;
+    /// without a session it is an SmtpError; while a message is in flight nothing is done.
     virtual void Send() = 0;
     /// Ends the session and drops a Connect that waits.
     virtual void Disconnect() = 0;

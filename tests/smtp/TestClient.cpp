@@ -192,6 +192,19 @@ void TestClient::messageThatCannotBeBuilt()
              QString());
 }
 
+void TestClient::messageThatCannotBeBuiltBeforeTheSessionIsReady()
+{
+    Dialogue dialogue;
+    const QString connected = opening(Mode::Chunking, Point::Greeting);
+    QCOMPARE(dialogue.play(u"E: Connect\n"_s + connected), QString());
+    dialogue.setMessage();
+    dialogue.client.AddAttachment(u"/nowhere/a.pdf"_s);
+    dialogue.client.Send();
+    QCOMPARE(dialogue.play(u"E< refused: /nowhere/a.pdf: the file does not exist\n"_s +
+                           opening(Mode::Chunking).sliced(connected.size()) + u"E< ready"_s),
+             QString());
+}
+
 void TestClient::messageThatIsTooLarge()
 {
     Dialogue dialogue;

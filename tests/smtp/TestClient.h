@@ -20,6 +20,7 @@ private Q_SLOTS:
     void repliesAreReadableInsideTheEventOnly();
     void statusFlag();
     void messageThatCannotBeBuilt();
+    void messageThatCannotBeBuiltBeforeTheSessionIsReady();
     void messageThatIsTooLarge();
     void serverClosesWhileTheEngineSends();
     void nobodyCanBeWrittenTo_data();

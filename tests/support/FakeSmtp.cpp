@@ -119,15 +119,16 @@ void FakeSmtp::AddAttachment(const QString &path)
 void FakeSmtp::Send()
 {
     calls += u"Send"_s;
-    sent += SentMessage{*this, std::exchange(attachments, {}), inlineFiles};
+    const OutgoingMessage &message = *this;
+    sent += SentMessage{message, std::exchange(attachments, {}), inlineFiles};
     m_inFlight = true;
     if (onSend)
         onSend();
     if (automatic)
-        post([this, message = sent.last()] {
+        post([this, last = sent.last()] {
             if (!m_inFlight)
                 return;
-            raiseDone(!accepts || accepts(message));
+            raiseDone(!accepts || accepts(last));
             if (m_readyIsDue)
                 raiseReady();
         });

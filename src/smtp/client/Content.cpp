@@ -6,7 +6,7 @@
 namespace {
 
 /// Up to here copying costs less than one more write.
-constexpr qsizetype WorthSharing = 16 * 1024;
+constexpr qsizetype WorthSharing = 16'384;
 
 } // namespace
 
@@ -18,14 +18,14 @@ QByteArray Segment::stuffed() const
     const std::string_view all(lines.constData(), static_cast<std::size_t>(lines.size()));
     constexpr auto DotLine = "\n."sv;
     std::size_t found = all.find(DotLine);
-    if (found == all.npos && !all.starts_with('.'))
+    if (found == std::string_view::npos && !all.starts_with('.'))
         return lines;
     QByteArray result;
     result.reserve(lines.size() + 64);
     if (all.starts_with('.'))
         result += '.';
     std::size_t begin = 0;
-    for (; found != all.npos; found = all.find(DotLine, begin)) {
+    for (; found != std::string_view::npos; found = all.find(DotLine, begin)) {
         const std::string_view upToLineEnd = all.substr(begin, found + 1 - begin);
         result.append(upToLineEnd.data(), static_cast<qsizetype>(upToLineEnd.size()));
         result += '.';

@@ -40,7 +40,7 @@ QList<InlineFiles::File> InlineFiles::usedIn(const QString &html) const
     qsizetype at = m_files.isEmpty() ? -1 : all.indexOf(Scheme);
     for (; at >= 0; at = all.indexOf(Scheme, at)) {
         at += Scheme.size();
-        const auto end = std::find_if_not(all.begin() + at, all.end(), isOfIdentifier);
+        const auto *end = std::find_if_not(all.begin() + at, all.end(), isOfIdentifier);
         const QByteArray id = all.sliced(at, end - (all.begin() + at)).toLatin1();
         for (qsizetype i = 0; i < m_files.size(); ++i)
             isUsed[i] = isUsed[i] || m_files[i].contentId == id;

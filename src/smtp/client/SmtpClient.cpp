@@ -79,7 +79,6 @@ void SmtpClient::Send()
         return;
     }
     auto letter = m_builder.build(*this, attachments);
-    m_inFlight.emplace();
     std::erase_if(m_events, [](const Event &event) { return event.kind == Event::Kind::Ready; });
     if (!letter) {
         ServerReply reason;
@@ -87,7 +86,7 @@ void SmtpClient::Send()
         finishMessage(false, QList<ServerReply>(LetterBuilder::recipientCount(*this), reason));
         return;
     }
-    m_inFlight->letter = *std::move(letter);
+    m_inFlight = InFlight{*std::move(letter), false, {}};
     if (!m_session)
         openSession(); // the server has ended the session since the message before
     else if (m_session->phase() == Session::Phase::Ready)
@@ -204,10 +203,11 @@ void SmtpClient::finishMessage(bool sent, const QList<ServerReply> &replies)
     done.sent = sent;
     done.replies = replies;
     m_events.push_back(std::move(done));
-    if (m_isWanted)
-        m_events.push_back({});
-    else
+    const bool isOpening = m_session && !m_wasReady; // it will say so when it is ready
+    if (!m_isWanted)
         closeSession();
+    else if (!isOpening)
+        m_events.push_back({});
 }
 
 void SmtpClient::raiseError(SmtpErrorNumber number, const QString &description,

@@ -14,7 +14,8 @@ constexpr std::size_t LongestLine = 998;
 bool hasOnlyCrLf(std::string_view text)
 {
     std::size_t ends = 0;
-    for (std::size_t at = text.find('\n'); at != text.npos; at = text.find('\n', at + 1)) {
+    for (std::size_t at = text.find('\n'); at != std::string_view::npos;
+         at = text.find('\n', at + 1)) {
         if (at == 0 || text[at - 1] != '\r')
             return false;
         ++ends;
@@ -31,7 +32,8 @@ QByteArray withCrLf(QByteArray text)
 bool hasShortLines(std::string_view text)
 {
     std::size_t begin = 0;
-    for (std::size_t end = text.find('\n'); end != text.npos; end = text.find('\n', begin)) {
+    for (std::size_t end = text.find('\n'); end != std::string_view::npos;
+         end = text.find('\n', begin)) {
         if (end - begin > LongestLine + 1) // the CR is counted here
             return false;
         begin = end + 1;
