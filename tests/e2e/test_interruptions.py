@@ -26,10 +26,13 @@ class RandomMoments(unittest.TestCase):
 
     def test_every_recipient_gets_exactly_one_message(self):
         print(f"SORVANTA_SEED={SEED}", flush=True)
+        self.pauses = []
         with ThreadPoolExecutor(AT_ONCE) as pool:
             runs = [pool.submit(self.run_with_interruptions, SEED + i) for i in range(MOMENTS)]
         complaints = [complaint for complaint in (run.result() for run in runs) if complaint]
         self.assertEqual(complaints, [])
+        print(f"paused {len(self.pauses)} times", flush=True)
+        self.assertGreater(len(self.pauses), MOMENTS // 2)
 
     def run_with_interruptions(self, seed):
         """A whole mailing; what went wrong, or nothing."""
@@ -55,6 +58,8 @@ class RandomMoments(unittest.TestCase):
                     break
                 if status not in (130, -signal.SIGINT):
                     return f"seed {seed}: exit status {status}"
+                if status == 130:
+                    self.pauses.append(seed)
             expected = sorted([row.address for row in people] + ["control@list.example"])
             if server.recipients() != expected:
                 return f"seed {seed}: received by {server.recipients()}"
