@@ -84,7 +84,9 @@ public:
     /// The identity of the row that this run appended for the control address; 0 without one.
     [[nodiscard]] quint64 controlRow() const { return m_controlRow; }
 
-    [[nodiscard]] bool messageInFlight() const { return m_inFlight.has_value(); }
+    /// Whether a message of the present run is in flight. One of an earlier run may be too; what
+    /// becomes of that is no concern of the present rows.
+    [[nodiscard]] bool messageInFlight() const { return m_inFlight && !isStale(*m_inFlight); }
     /// The rows of the message in flight as they are while nobody knows what became of it.
     [[nodiscard]] SettledMessage settledInDoubt() const;
     /// Calls back once, when the message in flight is settled.

@@ -16,10 +16,11 @@
 
 /// A workspace in a folder of its own, with a client, a clock, timers and prompts that do what the
 /// test says. Only tests that link the project's room include this.
-class WorkspaceRig
+template <typename PromptsType>
+class RigWith
 {
 public:
-    explicit WorkspaceRig(Language language = Language::English)
+    explicit RigWith(Language language = Language::English)
         : store(folder.filePath(QStringLiteral("settings.reg")).toStdString()),
           log(folder.path(), clock, formats, codePage),
           w({language, prompts, log, store, smtp, clock, formats, codePage, Timer, Timer2,
@@ -137,7 +138,7 @@ public:
     FakeClock clock;
     FakeFormats formats;
     CodePage codePage{"windows-1252"};
-    ScriptedPrompts prompts;
+    PromptsType prompts;
     FakeSmtp smtp;
     FakeTimer Timer;
     FakeTimer Timer2;
@@ -148,3 +149,5 @@ public:
 private:
     qsizetype m_loggedBefore = 0;
 };
+
+using WorkspaceRig = RigWith<ScriptedPrompts>;

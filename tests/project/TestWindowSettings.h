@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QObject>
+
+class TestWindowSettings : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aFirstRunShowsEmptyBoxesAndTheDefaultEditors();
+    void whatIsSavedIsLoaded();
+    void aMissingChoiceOfSeveralRecipientsTakesTheReceipts();
+    void trailingBlanksAndAccentsStay();
+};

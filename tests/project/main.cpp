@@ -1,0 +1,12 @@
+#include "TestModel.h"
+#include "TestProjectCommands.h"
+#include "TestProjectData.h"
+#include "TestProjectFile.h"
+#include "TestWindowSettings.h"
+#include "support/RunTests.h"
+
+int main(int argc, char **argv)
+{
+    return runTests<TestProjectData, TestProjectFile, TestProjectCommands, TestWindowSettings,
+                    TestModel>(argc, argv);
+}
