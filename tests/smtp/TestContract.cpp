@@ -44,7 +44,7 @@ struct Subject
         return std::exchange(events, {});
     }
 
-    void send(const QString &recipient = u"anna@example.net"_s)
+    void send(const QString &recipient = u"anna@example.net"_s) const
     {
         smtp->RecipientAddress = recipient;
         smtp->FromAddress = u"sender@example.org"_s;
