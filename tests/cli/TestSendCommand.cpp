@@ -1,0 +1,381 @@
+#include "TestSendCommand.h"
+
+#include "cli/SendCommand.h"
+#include "support/WorkspaceRig.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <optional>
+
+namespace {
+
+class NoComposer : public MessageComposer
+{
+public:
+    tl::expected<QByteArray, QString> compose() override { return tl::unexpected(QString()); }
+};
+
+// A project on disk, and the command that sends it with a client in memory.
+class SendRig
+{
+public:
+    explicit SendRig(int recipients = 3)
+    {
+        author.fillForm(recipients);
+        path = author.folder.filePath(QStringLiteral("mailing.svk"));
+    }
+
+    void saveProject()
+    {
+        author.w.projectFile.SaveProject(path, [](bool saved) { QVERIFY(saved); });
+    }
+
+    /// Starts the command and lets it come to where it waits for the clock or the server.
+    void start(SendOptions options = {})
+    {
+        options.project = path;
+        exitCode.reset();
+        command.emplace(options,
+                        CliSurroundings{author.store, smtp, composer, author.clock, author.formats,
+                                        author.codePage, Timer, Timer2, author.folder.path(),
+                                        QStringLiteral("pc"), output});
+        QObject::connect(&*command, &SendCommand::finished, &smtp,
+                         [this](ExitCode code) { exitCode = code; });
+        command->start();
+        settle();
+    }
+    /// Runs to the end: ticks, and a server that takes what `accepts` says.
+    void run(SendOptions options = {})
+    {
+        smtp.automatic = true;
+        start(std::move(options));
+        constexpr int Limit = 100;
+        for (int i = 0; i < Limit && !exitCode; ++i) {
+            Timer.tick();
+            settle();
+        }
+        if (!exitCode)
+            QTest::qFail("the command does not end", __FILE__, __LINE__);
+    }
+    static void settle() { WorkspaceRig::settle(); }
+
+    [[nodiscard]] ProjectData saved() const
+    {
+        return decodeProject(QString::fromLatin1(WorkspaceRig::contentOf(path)))
+            .value_or(ProjectData());
+    }
+    [[nodiscard]] QStringList savedStates() const
+    {
+        QStringList states;
+        for (const Recipient &row : saved().recipients)
+            states.append(row.state);
+        return states;
+    }
+    [[nodiscard]] QStringList addressesSent() const
+    {
+        QStringList all;
+        for (const FakeSmtp::SentMessage &message : smtp.sent)
+            all.append(message.message.RecipientAddress);
+        return all;
+    }
+
+    WorkspaceRig author;
+    QString path;
+    FakeSmtp smtp;
+    FakeTimer Timer;
+    FakeTimer Timer2;
+    NoComposer composer;
+    Output output;
+    std::optional<SendCommand> command;
+    std::optional<ExitCode> exitCode;
+};
+
+const QString Waiting = QStringLiteral("Waiting");
+const QString Sending = QStringLiteral("Sending...");
+const QString Sent = QStringLiteral("Sent");
+const QString Error = QStringLiteral("Error!");
+
+bool isFirst(const FakeSmtp::SentMessage &message)
+{
+    return message.message.RecipientAddress == QStringLiteral("a1@example.net");
+}
+
+} // namespace
+
+void TestSendCommand::everyRowSentIsSuccess()
+{
+    SendRig rig;
+    rig.saveProject();
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::Success);
+    QCOMPARE(rig.smtp.sent.size(), 3);
+}
+
+void TestSendCommand::aRefusedRowIsSaid()
+{
+    SendRig rig;
+    rig.saveProject();
+    rig.smtp.accepts = [](const FakeSmtp::SentMessage &message) { return !isFirst(message); };
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::SomeRefused);
+    QCOMPARE(rig.smtp.sent.size(), 3);
+}
+
+void TestSendCommand::aRefusedControlCopyIsSaid()
+{
+    SendRig rig;
+    rig.author.w.form.setText(Control::txtControl, QStringLiteral("me@example.org"));
+    rig.saveProject();
+    rig.smtp.accepts = [](const FakeSmtp::SentMessage &message) {
+        return message.message.RecipientAddress != QStringLiteral("me@example.org");
+    };
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::SomeRefused);
+}
+
+void TestSendCommand::whatStartRefusesIsNotBegun()
+{
+    SendRig rig;
+    rig.author.w.form.setText(Control::txtOggetto, {});
+    rig.saveProject();
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::Refused);
+    QVERIFY(rig.smtp.calls.isEmpty());
+}
+
+void TestSendCommand::aFileThatIsNoProjectIsNotBegun()
+{
+    SendRig rig;
+    rig.author.file(QStringLiteral("mailing.svk"), "v1.0\r\n");
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::Refused);
+}
+
+void TestSendCommand::aFileCutInsideARecipientIsNotBegun()
+{
+    SendRig rig;
+    rig.saveProject();
+    const QByteArray whole = WorkspaceRig::contentOf(rig.path);
+    rig.author.file(QStringLiteral("mailing.svk"), whole.first(whole.size() - 30));
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::Refused);
+    QVERIFY(rig.smtp.calls.isEmpty());
+}
+
+void TestSendCommand::linkedPicturesThatWillNotTravelNeedYes()
+{
+    SendRig rig;
+    rig.author.useHtmlMessage("<img src=\"http://www.example.org/a.gif\">");
+    rig.saveProject();
+    rig.smtp.takeRelatedFile = [](const QString &) { return QString(); };
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::Refused);
+    QVERIFY(rig.smtp.sent.isEmpty());
+    SendOptions options;
+    options.yes = true;
+    rig.run(options);
+    QCOMPARE(rig.exitCode, ExitCode::Success);
+    QVERIFY(rig.smtp.sent.front().message.HtmlBody.contains(QStringLiteral("http://www.example")));
+}
+
+void TestSendCommand::aRunWithoutSaveLeavesTheProject()
+{
+    SendRig rig;
+    rig.saveProject();
+    const QByteArray before = WorkspaceRig::contentOf(rig.path);
+    rig.run();
+    QCOMPARE(WorkspaceRig::contentOf(rig.path), before);
+}
+
+void TestSendCommand::saveWritesTheStatesBack()
+{
+    SendRig rig;
+    rig.saveProject();
+    rig.smtp.accepts = [](const FakeSmtp::SentMessage &message) { return !isFirst(message); };
+    SendOptions options;
+    options.save = true;
+    rig.run(options);
+    QCOMPARE(rig.exitCode, ExitCode::SomeRefused);
+    QVERIFY(!rig.saved().paused);
+    QCOMPARE(rig.savedStates(), (QStringList{Error, Sent, Sent}));
+}
+
+void TestSendCommand::aProjectWithSentRowsNeedsAWord_data()
+{
+    QTest::addColumn<QString>("word");
+    QTest::newRow("sent") << Sent;
+    QTest::newRow("in doubt") << Sending;
+    QTest::newRow("sent, by the Italian window") << QStringLiteral("Inviato");
+    QTest::newRow("in doubt, by the Italian window") << QStringLiteral("Invio...");
+}
+
+void TestSendCommand::aProjectWithSentRowsNeedsAWord()
+{
+    QFETCH(QString, word);
+    SendRig rig;
+    rig.author.w.recipients.setState(2, word);
+    rig.saveProject();
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::Refused);
+    QVERIFY(rig.smtp.sent.isEmpty());
+    SendOptions options;
+    options.rest = true;
+    rig.run(options);
+    QCOMPARE(rig.exitCode, ExitCode::Success);
+    QCOMPARE(rig.addressesSent(),
+             (QStringList{QStringLiteral("a1@example.net"), QStringLiteral("a3@example.net")}));
+}
+
+void TestSendCommand::againSendsToEverybody()
+{
+    SendRig rig;
+    rig.author.w.recipients.setState(2, Sent);
+    rig.saveProject();
+    SendOptions options;
+    options.again = true;
+    rig.run(options);
+    QCOMPARE(rig.exitCode, ExitCode::Success);
+    QCOMPARE(rig.smtp.sent.size(), 3);
+}
+
+void TestSendCommand::restWithNothingLeftSendsNothing()
+{
+    SendRig rig(1);
+    rig.author.w.form.setText(Control::txtControl, QStringLiteral("me@example.org"));
+    rig.author.w.recipients.setState(1, Sent);
+    rig.saveProject();
+    SendOptions options;
+    options.rest = true;
+    rig.run(options);
+    QCOMPARE(rig.exitCode, ExitCode::Success);
+    QVERIFY(rig.smtp.calls.isEmpty());
+}
+
+void TestSendCommand::aSessionThatFailsIsSaidAndWrittenBack()
+{
+    SendRig rig;
+    rig.saveProject();
+    rig.start();
+    rig.Timer.tick();
+    rig.smtp.raiseReady();
+    rig.smtp.raiseDone(true);
+    rig.smtp.raiseReady();
+    rig.smtp.raiseError(10, QStringLiteral("no answer"));
+    rig.settle();
+    QCOMPARE(rig.exitCode, ExitCode::SessionError);
+    // Whoever calls the command once more is not to mail the first two again unawares.
+    QCOMPARE(rig.savedStates(), (QStringList{Sent, Sending, Waiting}));
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::Refused);
+}
+
+void TestSendCommand::aSessionThatFailsBeforeAnyMessageLeavesTheProject()
+{
+    SendRig rig;
+    rig.saveProject();
+    const QByteArray before = WorkspaceRig::contentOf(rig.path);
+    rig.start();
+    rig.Timer.tick();
+    rig.smtp.raiseError(4, QStringLiteral("connection refused"));
+    QCOMPARE(rig.exitCode, ExitCode::SessionError);
+    QCOMPARE(WorkspaceRig::contentOf(rig.path), before);
+}
+
+void TestSendCommand::ctrlCBeforeTheFirstPacketSavesThePause()
+{
+    SendRig rig;
+    rig.saveProject();
+    rig.start();
+    rig.command->interrupt();
+    rig.settle();
+    QCOMPARE(rig.exitCode, ExitCode::Interrupted);
+    QVERIFY(rig.saved().paused);
+    QCOMPARE(rig.saved().nextRecipientIndex, 1);
+}
+
+void TestSendCommand::ctrlCInsideAMessageWaitsForIt()
+{
+    SendRig rig;
+    rig.saveProject();
+    rig.start();
+    rig.Timer.tick();
+    rig.smtp.raiseReady();
+    rig.command->interrupt();
+    rig.settle();
+    QVERIFY(!rig.exitCode);
+    rig.smtp.raiseDone(true);
+    rig.smtp.raiseReady();
+    rig.settle();
+    QCOMPARE(rig.exitCode, ExitCode::Interrupted);
+    QVERIFY(rig.saved().paused);
+    QCOMPARE(rig.savedStates(), (QStringList{Sent, Waiting, Waiting}));
+    QCOMPARE(rig.saved().nextRecipientIndex, 2);
+}
+
+void TestSendCommand::ctrlCInTheLastMessageEndsTheRun()
+{
+    SendRig rig(1);
+    rig.saveProject();
+    rig.start();
+    rig.Timer.tick();
+    rig.smtp.raiseReady();
+    rig.command->interrupt();
+    rig.smtp.raiseDone(true);
+    rig.smtp.raiseReady();
+    rig.settle();
+    QCOMPARE(rig.exitCode, ExitCode::Success);
+    QVERIFY(!rig.saved().paused);
+    QCOMPARE(rig.savedStates(), QStringList{Sent});
+}
+
+void TestSendCommand::aSecondCtrlCEndsAtOnceWithTheMessageInDoubt()
+{
+    SendRig rig;
+    rig.saveProject();
+    rig.start();
+    rig.Timer.tick();
+    rig.smtp.raiseReady();
+    rig.command->interrupt();
+    rig.command->interrupt();
+    QCOMPARE(rig.exitCode, ExitCode::Interrupted);
+    QVERIFY(rig.saved().paused);
+    QCOMPARE(rig.savedStates(), (QStringList{Sending, Waiting, Waiting}));
+    QCOMPARE(rig.saved().nextRecipientIndex, 2);
+}
+
+void TestSendCommand::aPausedProjectGoesOnAndIsWrittenBack()
+{
+    SendRig rig;
+    rig.saveProject();
+    rig.start();
+    rig.Timer.tick();
+    rig.smtp.raiseReady();
+    rig.command->interrupt();
+    rig.smtp.raiseDone(true);
+    rig.smtp.raiseReady();
+    rig.settle();
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::Success);
+    QCOMPARE(rig.addressesSent(),
+             (QStringList{QStringLiteral("a1@example.net"), QStringLiteral("a2@example.net"),
+                          QStringLiteral("a3@example.net")}));
+    QVERIFY(!rig.saved().paused);
+    QCOMPARE(rig.savedStates(), (QStringList{Sent, Sent, Sent}));
+}
+
+void TestSendCommand::aFailureAfterCtrlCKeepsThePause()
+{
+    SendRig rig;
+    rig.saveProject();
+    rig.start();
+    rig.Timer.tick();
+    rig.smtp.raiseReady();
+    rig.command->interrupt();
+    rig.smtp.raiseError(10, QStringLiteral("no answer"));
+    rig.settle();
+    QCOMPARE(rig.exitCode, ExitCode::SessionError);
+    QVERIFY(rig.saved().paused);
+    QCOMPARE(rig.savedStates(), (QStringList{Sending, Waiting, Waiting}));
+    QCOMPARE(rig.saved().nextRecipientIndex, 2);
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QObject>
+
+/// The command as a process sees it: what it exits with, and what stands in the project afterwards.
+class TestSendCommand : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyRowSentIsSuccess();
+    void aRefusedRowIsSaid();
+    void aRefusedControlCopyIsSaid();
+    void whatStartRefusesIsNotBegun();
+    void aFileThatIsNoProjectIsNotBegun();
+    void aFileCutInsideARecipientIsNotBegun();
+    void linkedPicturesThatWillNotTravelNeedYes();
+    void aRunWithoutSaveLeavesTheProject();
+    void saveWritesTheStatesBack();
+    void aProjectWithSentRowsNeedsAWord_data();
+    void aProjectWithSentRowsNeedsAWord();
+    void againSendsToEverybody();
+    void restWithNothingLeftSendsNothing();
+    void aSessionThatFailsIsSaidAndWrittenBack();
+    void aSessionThatFailsBeforeAnyMessageLeavesTheProject();
+    void ctrlCBeforeTheFirstPacketSavesThePause();
+    void ctrlCInsideAMessageWaitsForIt();
+    void ctrlCInTheLastMessageEndsTheRun();
+    void aSecondCtrlCEndsAtOnceWithTheMessageInDoubt();
+    void aPausedProjectGoesOnAndIsWrittenBack();
+    void aFailureAfterCtrlCKeepsThePause();
+};
