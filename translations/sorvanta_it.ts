@@ -95,6 +95,10 @@
         <source>New message file:</source>
         <translation>Nuovo file messaggio:</translation>
     </message>
+    <message>
+        <source>Error</source>
+        <translation>Errore</translation>
+    </message>
 </context>
 <context>
     <name>Pacing</name>

@@ -1,7 +1,6 @@
 #include "message/LinkedFiles.h"
 
 #include "base/Files.h"
-#include "base/modMain.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -10,10 +9,16 @@
 
 namespace {
 
+// Both as the system knows them, so that relative folders are found too.
+QString below(const QString &folder, const QString &name)
+{
+    return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
+}
+
 // The entry of that name in the folder; of several that differ in letter case, the exact one.
 QString entryOf(const QString &folder, const QString &name)
 {
-    const QString exact = joinPath(folder, name);
+    const QString exact = below(folder, name);
     if (QFileInfo::exists(exact))
         return exact;
     const QStringList entries =
@@ -21,7 +26,14 @@ QString entryOf(const QString &folder, const QString &name)
     const auto found = std::find_if(entries.begin(), entries.end(), [&name](const QString &entry) {
         return entry.compare(name, Qt::CaseInsensitive) == 0;
     });
-    return found == entries.end() ? QString() : joinPath(folder, *found);
+    return found == entries.end() ? QString() : below(folder, *found);
+}
+
+// A symbolic link may lead out of the folder.
+bool liesBelow(const QFileInfo &file, const QString &folder)
+{
+    const QString canonical = QDir(folder).canonicalPath();
+    return file.canonicalFilePath().startsWith(below(canonical, {}));
 }
 
 // "/" and "\" both separate.
@@ -55,19 +67,22 @@ LinkSearch findLink(QStringView lowerText, qsizetype from)
 bool staysBelow(QStringView link)
 {
     const QStringList names = namesIn(link);
-    return !names.isEmpty() && !names.contains(QLatin1String(".."));
+    return !names.isEmpty() && !names.contains(QLatin1String("..")) &&
+           !link.contains(QChar(QChar::Null));
 }
 
 QString findLinkedFile(const QString &folder, QStringView link)
 {
     if (!staysBelow(link))
         return {};
-    QString path = folder.isEmpty() ? QStringLiteral(".") : systemPath(folder);
+    const QString start = folder.isEmpty() ? QStringLiteral(".") : systemPath(folder);
+    QString path = start;
     const QStringList names = namesIn(link);
     for (const QString &name : names) {
         path = entryOf(path, name);
         if (path.isEmpty())
             return {};
     }
-    return QFileInfo(path).isFile() ? path : QString();
+    const QFileInfo file(path);
+    return file.isFile() && liesBelow(file, start) ? path : QString();
 }

@@ -27,11 +27,11 @@ struct LinkSearch
 /// quote.
 [[nodiscard]] LinkSearch findLink(QStringView lowerText, qsizetype from);
 
-/// Whether a link names something below the folder it is joined to: it is not empty, and does not
-/// climb out through "..".
+/// Whether a link can name something below the folder it is joined to: it is not empty, does not
+/// climb out through "..", and holds no NUL.
 [[nodiscard]] bool staysBelow(QStringView link);
 
 /// The existing file that a link names below a folder: exact letter case first, then any. "/" and
 /// "\" both separate folders; "?" and "*" are letters. Nothing outside the folder and its
-/// subfolders is ever found. Empty when there is no such file.
+/// subfolders is ever found, through symbolic links neither. Empty when there is no such file.
 [[nodiscard]] QString findLinkedFile(const QString &folder, QStringView link);

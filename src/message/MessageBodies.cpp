@@ -61,9 +61,10 @@ void MessageBodies::StageLinkedImages()
     auto link = findLink(lower, 0).link;
     while (link) {
         const QString name = lower.sliced(link->start, link->length);
+        const auto written = QStringView(m_htmlBody).sliced(link->start, link->length);
         // A link that climbs out of the folder would let private files travel.
         const QString reference =
-            staysBelow(name) ? stage(findLinkedFile(folder, name), name) : QString();
+            staysBelow(name) ? stage(findLinkedFile(folder, written), name) : QString();
         // A link whose file the client cannot take stays: it may lead to the web.
         if (!reference.isEmpty()) {
             m_htmlBody.replace(link->start, link->length, reference);

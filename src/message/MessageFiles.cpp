@@ -87,11 +87,18 @@ void MessageFiles::NewMessageFile(const QString &filter, std::function<void(QStr
     dialog.initialFolder = documentFolder();
     m_prompts.askFile(dialog, whileEnabled(Control::cmdPreviewTXT),
                       [this, then = std::move(then)](const QString &name) {
-                          if (!name.isEmpty()) {
+                          if (!name.isEmpty())
                               rememberFolderOf(name);
-                              if (!isExistingFile(name))
-                                  (void)replaceWholeFile(name, {});
-                          }
-                          then(name);
+                          then(name.isEmpty() || create(name) ? name : QString());
                       });
+}
+
+bool MessageFiles::create(const QString &name)
+{
+    if (isExistingFile(name))
+        return true;
+    const auto created = replaceWholeFile(name, {});
+    if (!created)
+        m_prompts.notice({Icon::Critical, tr("Error"), created.error().toText()});
+    return created.has_value();
 }

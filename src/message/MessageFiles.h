@@ -22,12 +22,13 @@ public:
     void cmdCancellaTXT_Click();
     void cmdCancellaHTML_Click();
     /// Asks for the name of a new message file, creates it empty when it is missing, and hands the
-    /// name on; an empty one when the user cancels.
+    /// name on; an empty one when the user cancels, or when a box said that it cannot be created.
     void NewMessageFile(const QString &filter, std::function<void(QString)> then);
 
 private:
     void choose(Control box, Control button, FileDialog dialog);
     void forget(Control box);
+    bool create(const QString &name);
     [[nodiscard]] QString documentFolder() const;
     void rememberFolderOf(const QString &name);
     [[nodiscard]] Stands whileEnabled(Control control) const;

@@ -5,9 +5,13 @@
 
 #include <QStringDecoder>
 
+#include <algorithm>
+#include <cctype>
+#include <optional>
+
 namespace {
 
-// What stands behind "charset=" near the beginning of an HTML file, as browsers look for it.
+// What stands behind "charset=" near the beginning of an HTML file, in lower case.
 QByteArray declaredCharset(const QByteArray &content)
 {
     constexpr qsizetype Reach = 1024;
@@ -26,19 +30,29 @@ QByteArray declaredCharset(const QByteArray &content)
     return head.sliced(at, end - at);
 }
 
+// The text by the file's own declaration; nothing when it has none, or one that its bytes do not
+// keep to.
+std::optional<QString> decodeAsDeclared(const QByteArray &content)
+{
+    const QByteArray charset = declaredCharset(content);
+    // Where a declaration can be read at all, a letter is one byte.
+    if (charset.isEmpty() || charset.startsWith("utf-16") || charset.startsWith("utf-32"))
+        return std::nullopt;
+    QStringDecoder decoder(charset.constData());
+    if (!decoder.isValid())
+        return std::nullopt;
+    const QString text = decoder(content);
+    return decoder.hasError() ? std::nullopt : std::optional(text);
+}
+
 } // namespace
 
 QString decodeMessage(const QByteArray &content, MessageKind kind, const CodePage &codePage)
 {
-    if (kind == MessageKind::Html && !readsAsUtf8(content)) {
-        const QByteArray charset = declaredCharset(content);
-        QStringDecoder decoder(charset.constData());
-        // A declaration that the bytes do not keep to is no help: the common rule is.
-        if (!charset.isEmpty() && decoder.isValid()) {
-            const QString text = decoder(content);
-            if (!decoder.hasError())
-                return text;
-        }
+    const bool hasMark = content.startsWith("\xEF\xBB\xBF");
+    if (kind == MessageKind::Html && !hasMark) {
+        if (const auto text = decodeAsDeclared(content))
+            return *text;
     }
     return codePage.decode(content);
 }

@@ -8,8 +8,8 @@
 
 enum class MessageKind { Text, Html };
 
-/// The text of a message file. An HTML file's own declaration of its character set comes first;
-/// else the rule for all files.
+/// The text of a message file. An HTML file's own declaration of its character set comes first
+/// when its bytes keep to it and do not begin with the mark of UTF-8; else the rule for all files.
 [[nodiscard]] QString decodeMessage(const QByteArray &content, MessageKind kind,
                                     const CodePage &codePage);
 

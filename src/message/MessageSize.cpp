@@ -5,6 +5,24 @@
 
 #include <limits>
 
+/// Counts in 32 bits: a sum that has once left them stays too large, whatever is added.
+class MessageSize::ByteCount
+{
+public:
+    void add(qint32 bytes)
+    {
+        m_sum += bytes;
+        m_fits = m_fits && m_sum >= std::numeric_limits<qint32>::min() &&
+                 m_sum <= std::numeric_limits<qint32>::max();
+    }
+    [[nodiscard]] bool fits() const { return m_fits; }
+    [[nodiscard]] qint64 sum() const { return m_sum; }
+
+private:
+    qint64 m_sum = 0;
+    bool m_fits = true;
+};
+
 QString sizeText(qint64 bytes, QChar decimalSign)
 {
     constexpr qint64 BytesPerKilobyte = 1024;
@@ -28,44 +46,40 @@ MessageSize::MessageSize(Form &form, const Attachments &attachments, const Messa
 
 bool MessageSize::UpdateMessageSize()
 {
-    qint64 size = 0;
+    ByteCount size;
     if (const QString textPath = m_form.tag(Control::txtEmail); !textPath.isEmpty())
-        size = FileSizeOf(textPath);
+        size.add(FileSizeOf(textPath));
     if (const QString htmlPath = m_form.tag(Control::txtHTML); !htmlPath.isEmpty()) {
-        size += FileSizeOf(htmlPath);
-        const auto linked = linkedFilesSize(htmlPath);
-        if (!linked) {
+        size.add(FileSizeOf(htmlPath));
+        if (!addLinkedFiles(htmlPath, size)) {
             return reportFailure(
                 QCoreApplication::translate("Message",
                                             "A link in the HTML message has no closing quote: %1")
                     .arg(htmlPath));
         }
-        size += *linked;
     }
     for (const QString &path : m_attachments.paths())
-        size += FileSizeOf(path);
-    if (size > std::numeric_limits<qint32>::max())
+        size.add(FileSizeOf(path));
+    if (!size.fits())
         return reportFailure(
             QCoreApplication::translate("Message", "The message is larger than 2 GB."));
-    m_form.setText(Control::lblSize, sizeText(size, m_formats.decimalSign()));
+    m_form.setText(Control::lblSize, sizeText(size.sum(), m_formats.decimalSign()));
     return true;
 }
 
-std::optional<qint64> MessageSize::linkedFilesSize(const QString &htmlPath) const
+bool MessageSize::addLinkedFiles(const QString &htmlPath, ByteCount &size) const
 {
     QString content;
     m_reader.LoadMessageFile(content, htmlPath, MessageKind::Html);
-    content = lowerCaseInPlace(content);
+    const QString lower = lowerCaseInPlace(content);
     const QString folder = FolderOf(htmlPath);
-    qint64 size = 0;
-    for (LinkSearch search = findLink(content, 0); search.link || search.unclosed;
-         search = findLink(content, search.link->start + 1)) {
-        if (search.unclosed)
-            return std::nullopt;
+    LinkSearch search = findLink(lower, 0);
+    while (search.link) {
         const auto name = QStringView(content).sliced(search.link->start, search.link->length);
-        size += FileSizeOf(findLinkedFile(folder, name));
+        size.add(FileSizeOf(findLinkedFile(folder, name)));
+        search = findLink(lower, search.link->start + 1);
     }
-    return size;
+    return !search.unclosed;
 }
 
 bool MessageSize::reportFailure(const QString &reason)

@@ -5,8 +5,6 @@
 #include "message/Attachments.h"
 #include "message/MessageReader.h"
 
-#include <optional>
-
 /// The label that shows how large the message is: message files, linked files and attachments as
 /// they lie on the disk, before any encoding. A file that cannot be opened counts -1.
 class MessageSize
@@ -21,7 +19,10 @@ public:
     bool UpdateMessageSize();
 
 private:
-    [[nodiscard]] std::optional<qint64> linkedFilesSize(const QString &htmlPath) const;
+    class ByteCount;
+
+    /// False when a link has no closing quote.
+    bool addLinkedFiles(const QString &htmlPath, ByteCount &size) const;
     bool reportFailure(const QString &reason);
 
     Form &m_form;
