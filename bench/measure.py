@@ -21,7 +21,7 @@ from projects import Project, Row  # noqa: E402  the path is set above
 
 BUILD = Path(sys.argv[1])
 MESSAGES = int(sys.argv[2])
-MESSAGES_WITH_ATTACHMENT = max(MESSAGES // 20, 20)
+MESSAGES_WITH_ATTACHMENT = max(MESSAGES // 5, 20)
 MESSAGES_OVER_A_NETWORK = 100
 ROUND_TRIP_MS = 50
 LONGEST_LIST = 32767
@@ -133,7 +133,7 @@ class Bench:
         """The same mailing by other clients, in microseconds of processor time a message."""
         libcurl = BUILD / "bin" / "bench_libcurl"
         python = ["/usr/bin/python3", Path(__file__).with_name("smtplib_client.py")]
-        few = max(count // 10, 10)
+        few = max(count // 50, 10)
         commands = {
             "libcurl ready-made": ([libcurl, port, count, "ready", self.text], count),
             "libcurl MIME": ([libcurl, port, count, "mime", self.text], count),
