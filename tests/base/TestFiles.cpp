@@ -25,7 +25,7 @@ void TestFiles::fileIsReadAsItIs_data()
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("line ends and NUL") << QByteArray("a\r\nb\n\0c\r", 8);
-    QTest::newRow("a megabyte") << QByteArray(1024 * 1024, '\xE8');
+    QTest::newRow("a megabyte") << QByteArray(1'000'000, '\xE8');
 }
 
 void TestFiles::fileIsReadAsItIs()

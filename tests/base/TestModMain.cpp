@@ -216,7 +216,7 @@ void TestModMain::sizeOfLargeFilesIsTheLow32Bits()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"large"_s);
-    constexpr qint64 GiB = 1024 * 1024 * 1024;
+    constexpr qint64 GiB = Q_INT64_C(1) << 30;
     makeSparseFile(path, 2 * GiB - 1);
     QCOMPARE(FileSizeOf(path), 2147483647);
     makeSparseFile(path, 2 * GiB);

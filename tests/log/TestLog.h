@@ -42,6 +42,6 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<FakeClock> m_clock;
-    const FakeFormats m_formats;
+    const FakeFormats m_formats{};
     const CodePage m_codePage{"windows-1252"};
 };

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 GiB = 1024 * 1024 * 1024;
+constexpr qint64 GiB = Q_INT64_C(1) << 30;
 
 /// The content, filled up to that size.
 QByteArray filled(const QByteArray &content, qsizetype size)

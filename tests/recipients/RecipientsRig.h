@@ -48,8 +48,8 @@ struct RecipientsRig
     [[nodiscard]] QStringList logged() const { return messagesOfLog(folder.path()); }
 
     const QTemporaryDir folder;
-    const FakeClock clock;
-    const FakeFormats formats;
+    const FakeClock clock{};
+    const FakeFormats formats{};
     const CodePage codePage{"windows-1252"};
     CLog AppLog{folder.path(), clock, formats, codePage};
     ScriptedPrompts prompts;

@@ -11,7 +11,6 @@ public:
     explicit FileSizeLimit(rlim_t bytes)
     {
         ::getrlimit(RLIMIT_FSIZE, &m_before);
-        m_handlerBefore = std::signal(SIGXFSZ, SIG_IGN);
         const rlimit limit{bytes, m_before.rlim_max};
         ::setrlimit(RLIMIT_FSIZE, &limit);
     }
@@ -25,5 +24,5 @@ public:
 
 private:
     rlimit m_before{};
-    void (*m_handlerBefore)(int) = SIG_DFL;
+    void (*m_handlerBefore)(int) = std::signal(SIGXFSZ, SIG_IGN);
 };
