@@ -6,6 +6,7 @@
 #include "base/RegionalFormats.h"
 #include "form/Form.h"
 #include "log/CLog.h"
+#include "message/AttachmentCommands.h"
 #include "message/Attachments.h"
 #include "message/MessageBodies.h"
 #include "message/MessageFiles.h"
@@ -20,7 +21,8 @@
 #include "recipients/RecipientsFile.h"
 #include "sending/SendingEngine.h"
 #include "settings/SettingsStore.h"
-#include "smtp/Smtp.h"
+
+class Smtp;
 
 /// What a workspace is given from outside. All of it outlives the workspace.
 struct Surroundings

@@ -3,6 +3,7 @@
 #include "base/CodePage.h"
 #include "form/Form.h"
 #include "log/CLog.h"
+#include "message/AttachmentCommands.h"
 #include "message/Attachments.h"
 #include "message/MessageBodies.h"
 #include "message/MessageFiles.h"
@@ -55,7 +56,7 @@ struct MessageRig
 
     const QTemporaryDir folder;
     const QTemporaryDir documents;
-    const FakeClock clock;
+    const FakeClock clock{};
     FakeFormats formats;
     const CodePage codePage{"windows-1252"};
     CLog AppLog{folder.path(), clock, formats, codePage};

@@ -2,7 +2,7 @@
 
 #include "smtp/client/Limits.h"
 #include "smtp/client/ReplyReader.h"
-#include "smtp/client/SmtpErrors.h"
+#include "smtp/client/SessionFault.h"
 #include "smtp/client/Transaction.h"
 #include "smtp/client/Watchdog.h"
 
