@@ -15,7 +15,10 @@ using namespace Qt::StringLiterals;
 
 void TestProgramFolder::besideTheProgramWhenTheUserMayWriteThere()
 {
-    QCOMPARE(programFolder(), QCoreApplication::applicationDirPath());
+    const QString beside = QCoreApplication::applicationDirPath();
+    if (!QFileInfo(beside).isWritable())
+        QSKIP("this user may not write beside this program");
+    QCOMPARE(programFolder(), beside);
 }
 
 void TestProgramFolder::inTheUsersDataFolderElse()

@@ -10,9 +10,9 @@ namespace {
 
 struct Text
 {
-    const char *context;
-    const char *english;
-    const char *italian;
+    const char *context = nullptr;
+    const char *english = nullptr;
+    const char *italian = nullptr;
     const char *comment = nullptr;
 };
 
