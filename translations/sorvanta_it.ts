@@ -266,10 +266,6 @@
         <translation>Indirizzo di controllo</translation>
     </message>
     <message>
-        <source>&apos;%1&apos; is not a port number from 1 to 65535</source>
-        <translation>&apos;%1&apos; non è un numero di porta da 1 a 65535</translation>
-    </message>
-    <message>
         <source>Start</source>
         <translation>Avvio</translation>
     </message>

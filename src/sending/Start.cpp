@@ -136,7 +136,8 @@ void SendingEngine::ConnectForPacket()
         m_SMTP.Connect();
     m_AppLog.WriteMessage(QStringLiteral("Sending procedure started"));
     if (!port) {
+        // English in both windows, as every error of a session: the log gets the same text.
         SMTP_SmtpError(static_cast<qint32>(SmtpErrorNumber::BadPort),
-                       Texts::tr("'%1' is not a port number from 1 to 65535").arg(portText));
+                       QStringLiteral("'%1' is not a port number from 1 to 65535").arg(portText));
     }
 }

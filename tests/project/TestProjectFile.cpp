@@ -13,11 +13,12 @@ const QString Sent = QStringLiteral("Sent");
 const QString Error = QStringLiteral("Error!");
 const QString UnableToLoad = QStringLiteral("Unable to load the specified file!");
 
+// Whether the project was saved at once.
 bool save(WorkspaceRig &rig, const QString &path)
 {
-    bool result = false;
-    rig.w.projectFile.SaveProject(path, [&result](bool saved) { result = saved; });
-    return result;
+    const auto result = std::make_shared<bool>(false);
+    rig.w.projectFile.SaveProject(path, [result](bool saved) { *result = saved; });
+    return *result;
 }
 
 QString projectPath(const WorkspaceRig &rig)
