@@ -45,6 +45,20 @@ public:
         command->start();
         settle();
     }
+    /// Starts, and hands the first message over.
+    void startSending()
+    {
+        start();
+        Timer.tick();
+        smtp.raiseReady();
+    }
+    /// The result of the message in flight, and the session ready for the next.
+    void finishMessage()
+    {
+        smtp.raiseDone(true);
+        smtp.raiseReady();
+        settle();
+    }
     /// Runs to the end: ticks, and a server that takes what `accepts` says.
     void run(SendOptions options = {})
     {
@@ -256,11 +270,8 @@ void TestSendCommand::aSessionThatFailsIsSaidAndWrittenBack()
 {
     SendRig rig;
     rig.saveProject();
-    rig.start();
-    rig.Timer.tick();
-    rig.smtp.raiseReady();
-    rig.smtp.raiseDone(true);
-    rig.smtp.raiseReady();
+    rig.startSending();
+    rig.finishMessage();
     rig.smtp.raiseError(10, QStringLiteral("no answer"));
     rig.settle();
     QCOMPARE(rig.exitCode, ExitCode::SessionError);
@@ -298,15 +309,11 @@ void TestSendCommand::ctrlCInsideAMessageWaitsForIt()
 {
     SendRig rig;
     rig.saveProject();
-    rig.start();
-    rig.Timer.tick();
-    rig.smtp.raiseReady();
+    rig.startSending();
     rig.command->interrupt();
     rig.settle();
     QVERIFY(!rig.exitCode);
-    rig.smtp.raiseDone(true);
-    rig.smtp.raiseReady();
-    rig.settle();
+    rig.finishMessage();
     QCOMPARE(rig.exitCode, ExitCode::Interrupted);
     QVERIFY(rig.saved().paused);
     QCOMPARE(rig.savedStates(), (QStringList{Sent, Waiting, Waiting}));
@@ -317,13 +324,9 @@ void TestSendCommand::ctrlCInTheLastMessageEndsTheRun()
 {
     SendRig rig(1);
     rig.saveProject();
-    rig.start();
-    rig.Timer.tick();
-    rig.smtp.raiseReady();
+    rig.startSending();
     rig.command->interrupt();
-    rig.smtp.raiseDone(true);
-    rig.smtp.raiseReady();
-    rig.settle();
+    rig.finishMessage();
     QCOMPARE(rig.exitCode, ExitCode::Success);
     QVERIFY(!rig.saved().paused);
     QCOMPARE(rig.savedStates(), QStringList{Sent});
@@ -333,9 +336,7 @@ void TestSendCommand::aSecondCtrlCEndsAtOnceWithTheMessageInDoubt()
 {
     SendRig rig;
     rig.saveProject();
-    rig.start();
-    rig.Timer.tick();
-    rig.smtp.raiseReady();
+    rig.startSending();
     rig.command->interrupt();
     rig.command->interrupt();
     QCOMPARE(rig.exitCode, ExitCode::Interrupted);
@@ -348,13 +349,9 @@ void TestSendCommand::aPausedProjectGoesOnAndIsWrittenBack()
 {
     SendRig rig;
     rig.saveProject();
-    rig.start();
-    rig.Timer.tick();
-    rig.smtp.raiseReady();
+    rig.startSending();
     rig.command->interrupt();
-    rig.smtp.raiseDone(true);
-    rig.smtp.raiseReady();
-    rig.settle();
+    rig.finishMessage();
     rig.run();
     QCOMPARE(rig.exitCode, ExitCode::Success);
     QCOMPARE(rig.addressesSent(),
@@ -368,9 +365,7 @@ void TestSendCommand::aFailureAfterCtrlCKeepsThePause()
 {
     SendRig rig;
     rig.saveProject();
-    rig.start();
-    rig.Timer.tick();
-    rig.smtp.raiseReady();
+    rig.startSending();
     rig.command->interrupt();
     rig.smtp.raiseError(10, QStringLiteral("no answer"));
     rig.settle();
