@@ -3,6 +3,7 @@
 #include <QSocketNotifier>
 
 #include <array>
+#include <cerrno>
 #include <csignal>
 
 #include <fcntl.h>
@@ -17,9 +18,20 @@ int writeEnd = -1;
 
 void noteSignal(int)
 {
+    const int errorBefore = errno;
     const char byte = 0;
     // A full pipe means that the event loop has enough to read.
     [[maybe_unused]] const ssize_t written = ::write(writeEnd, &byte, 1);
+    errno = errorBefore;
+}
+
+void handleSignals(void (*handler)(int))
+{
+    struct sigaction action = {};
+    action.sa_handler = handler;
+    action.sa_flags = SA_RESTART;
+    for (const int signal : Signals)
+        ::sigaction(signal, &action, nullptr);
 }
 
 } // namespace
@@ -28,7 +40,6 @@ struct Interrupts::Watch
 {
     std::array<int, 2> pipe{-1, -1};
     std::unique_ptr<QSocketNotifier> notifier;
-    std::array<struct sigaction, Signals.size()> before{};
 };
 
 Interrupts::Interrupts(QObject *parent) : QObject(parent), m_watch(std::make_unique<Watch>())
@@ -43,19 +54,14 @@ Interrupts::Interrupts(QObject *parent) : QObject(parent), m_watch(std::make_uni
         while (::read(m_watch->pipe[0], &byte, 1) == 1)
             Q_EMIT interrupted();
     });
-    struct sigaction action = {};
-    action.sa_handler = noteSignal;
-    action.sa_flags = SA_RESTART;
-    for (std::size_t i = 0; i < Signals.size(); ++i)
-        ::sigaction(Signals[i], &action, &m_watch->before[i]);
+    handleSignals(noteSignal);
 }
 
 Interrupts::~Interrupts()
 {
     if (!m_watch->notifier)
         return;
-    for (std::size_t i = 0; i < Signals.size(); ++i)
-        ::sigaction(Signals[i], &m_watch->before[i], nullptr);
+    handleSignals(SIG_IGN);
     writeEnd = -1;
     ::close(m_watch->pipe[0]);
     ::close(m_watch->pipe[1]);

@@ -82,12 +82,10 @@ bool SendingEngine::findNextRecipient()
     for (int position = m_searchFrom; position <= m_recipients.count(); ++position) {
         if (m_recipients.at(position).checked) {
             m_session.nextRecipientIndex = position;
-            m_searchFrom = position;
             return true;
         }
         markNotSent(position);
     }
-    m_searchFrom = m_recipients.count() + 1;
     return false;
 }
 

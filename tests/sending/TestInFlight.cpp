@@ -42,9 +42,12 @@ void TestInFlight::aReadySessionFromBeforeAResumeIsOnlyDisconnected()
     rig.Timer.tick();
     rig.w.engine.cmdPausa_Click();
     rig.w.engine.cmdPausa_Click();
+    rig.logged();
     rig.smtp.raiseReady();
     QCOMPARE(rig.smtp.calls.last(), QStringLiteral("Disconnect"));
     QVERIFY(rig.smtp.sent.isEmpty());
+    // It is no end of a packet either.
+    QCOMPARE(rig.logged(), QStringList());
     rig.Timer.tick();
     rig.smtp.raiseReady();
     QCOMPARE(rig.addressesSent(), QStringList{QStringLiteral("a1@example.net")});
