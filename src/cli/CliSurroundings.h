@@ -31,6 +31,4 @@ struct CliSurroundings
         return {Language::English, prompts,  AppLog, settings, SMTP,          clock,
                 formats,           codePage, Timer,  Timer2,   programFolder, computerName};
     }
-    /// A log for commands that leave no trace.
-    [[nodiscard]] CLog closedLog() const { return {clock, formats, codePage}; }
 };

@@ -3,7 +3,7 @@
 import socket
 import unittest
 
-from endtoend import EndToEnd, rows, states
+from endtoend import EndToEnd, Ended, rows, states
 from server import (
     CLOSES,
     CLOSES_WITH_421,
@@ -32,6 +32,15 @@ class Outcomes(EndToEnd):
         self.send(self.path, "--save")
         self.assertEqual(self.server.recipients(), EVERYBODY)
         self.assertEqual(set(states(self.path).values()), {"Sent"})
+
+    def test_output_that_nobody_reads_does_not_end_the_run(self):
+        # More rows than the output's buffer holds, so that it is written while the run goes on.
+        many = rows(200)
+        process = self.program.start("send", self.project(self.server, many, packet=200))
+        process.stdout.close()
+        process.stdout = None
+        self.assertEqual(Ended(process).status, 0)
+        self.assertEqual(self.server.recipients(), sorted(row.address for row in many))
 
     def test_one_of_several_refused_is_1(self):
         self.server.refused_addresses["r2@list.example"] = "550 5.1.1 No such user"
