@@ -9,10 +9,10 @@ namespace {
 // three lists that a start of a run, a pause and an end of a run work through.
 struct Rule
 {
-    Control control;
-    bool idle;
-    bool running; // Waiting and Sending
-    bool paused;
+    Control control = Control::txtServer;
+    bool idle = true;
+    bool running = true; // Waiting and Sending
+    bool paused = true;
 };
 
 constexpr bool Yes = true;

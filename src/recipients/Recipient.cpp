@@ -6,7 +6,7 @@ namespace {
 
 struct Word
 {
-    RowState state;
+    RowState state = RowState::Waiting;
     QLatin1String english;
     QLatin1String italian;
 };
