@@ -50,7 +50,7 @@ public:
     }
 
 private:
-    [[nodiscard]] int upTo(qsizetype count)
+    [[nodiscard]] int upTo(qsizetype count) const
     {
         return std::uniform_int_distribution<int>(0, static_cast<int>(count) - 1)(*random);
     }
