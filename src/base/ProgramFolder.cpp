@@ -7,9 +7,13 @@
 
 QString programFolder()
 {
-    const QString beside = QCoreApplication::applicationDirPath();
-    if (QFileInfo(beside).isWritable())
-        return beside;
+    return programFolderOf(QCoreApplication::applicationDirPath());
+}
+
+QString programFolderOf(const QString &executableFolder)
+{
+    if (QFileInfo(executableFolder).isWritable())
+        return executableFolder;
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
                          QStringLiteral("/Sorvanta");
     QDir().mkpath(data);

@@ -6,3 +6,6 @@
 /// the executable when the user may write there (a build, a portable copy), else the per-user data
 /// folder, which is created when it is missing. Without a separator at its end.
 [[nodiscard]] QString programFolder();
+
+/// The same for an executable that lies in that folder.
+[[nodiscard]] QString programFolderOf(const QString &executableFolder);
