@@ -47,6 +47,17 @@ ProjectData dataOf(const QString &path)
     return project.value_or(ProjectData());
 }
 
+// What is saved in a pause while a message is in flight, once that has happened to it.
+template <typename Event>
+ProjectData savedInFlight(Event event)
+{
+    WorkspaceRig rig;
+    pauseInFlight(rig);
+    rig.w.projectFile.SaveProject(projectPath(rig), [](bool) {});
+    event(rig);
+    return dataOf(projectPath(rig));
+}
+
 QStringList statesOf(const ProjectData &project)
 {
     QStringList states;
@@ -432,22 +443,15 @@ void TestProjectFile::aSaveDoesNotWaitForAMessageOfAnEarlierRun()
 
 void TestProjectFile::aSaveThatWaitsKeepsARefusedMessagesState()
 {
-    WorkspaceRig rig;
-    pauseInFlight(rig);
-    rig.w.projectFile.SaveProject(projectPath(rig), [](bool) {});
-    rig.smtp.raiseDone(false);
-    const ProjectData project = dataOf(projectPath(rig));
+    const ProjectData project = savedInFlight([](WorkspaceRig &rig) { rig.smtp.raiseDone(false); });
     QCOMPARE(statesOf(project), (QStringList{Error, Waiting, Waiting, Waiting}));
     QCOMPARE(project.nextRecipientIndex, 2);
 }
 
 void TestProjectFile::aSaveThatWaitsKeepsAMessageInDoubt()
 {
-    WorkspaceRig rig;
-    pauseInFlight(rig);
-    rig.w.projectFile.SaveProject(projectPath(rig), [](bool) {});
-    rig.smtp.raiseError(10, QStringLiteral("no answer"));
-    const ProjectData project = dataOf(projectPath(rig));
+    const ProjectData project = savedInFlight(
+        [](WorkspaceRig &rig) { rig.smtp.raiseError(10, QStringLiteral("no answer")); });
     QVERIFY(project.paused);
     QCOMPARE(statesOf(project), (QStringList{Sending, Waiting, Waiting, Waiting}));
     QCOMPARE(project.nextRecipientIndex, 2);
@@ -455,11 +459,8 @@ void TestProjectFile::aSaveThatWaitsKeepsAMessageInDoubt()
 
 void TestProjectFile::aSaveThatWaitsSendsAMessageNeverTakenAgain()
 {
-    WorkspaceRig rig;
-    pauseInFlight(rig);
-    rig.w.projectFile.SaveProject(projectPath(rig), [](bool) {});
-    rig.smtp.raiseError(9, QStringLiteral("not taken"), false);
-    const ProjectData project = dataOf(projectPath(rig));
+    const ProjectData project = savedInFlight(
+        [](WorkspaceRig &rig) { rig.smtp.raiseError(9, QStringLiteral("not taken"), false); });
     QVERIFY(project.paused);
     QCOMPARE(statesOf(project), (QStringList{Waiting, Waiting, Waiting, Waiting}));
     QCOMPARE(project.nextRecipientIndex, 1);
