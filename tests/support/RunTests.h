@@ -3,13 +3,21 @@
 #include <QCoreApplication>
 #include <QTest>
 
-/// Runs each of the test classes and returns the number of failures.
-template <typename... Tests>
-int runTests(int argc, char **argv)
+/// Runs each of the test classes inside an application of that kind and returns the number of
+/// failures.
+template <typename Application, typename... Tests>
+int runTestsIn(int argc, char **argv)
 {
-    const QCoreApplication application(argc, argv);
+    const Application application(argc, argv);
     const auto failuresOf = [argc, argv](QObject &&test) {
         return QTest::qExec(&test, argc, argv);
     };
     return (failuresOf(Tests()) + ...);
+}
+
+/// The same without windows.
+template <typename... Tests>
+int runTests(int argc, char **argv)
+{
+    return runTestsIn<QCoreApplication, Tests...>(argc, argv);
 }

@@ -1,0 +1,15 @@
+#include "ui/DesktopShell.h"
+
+#include <QDesktopServices>
+#include <QProcess>
+#include <QUrl>
+
+void DesktopShell::open(const QString &address)
+{
+    QDesktopServices::openUrl(QUrl(address));
+}
+
+bool DesktopShell::start(const QString &program, const QStringList &arguments)
+{
+    return QProcess::startDetached(program, arguments);
+}

@@ -1,0 +1,9 @@
+#include "TestDigitsEdit.h"
+#include "support/RunTests.h"
+
+#include <QApplication>
+
+int main(int argc, char **argv)
+{
+    return runTestsIn<QApplication, TestDigitsEdit>(argc, argv);
+}
