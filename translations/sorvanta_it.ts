@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT">
 <context>
+    <name>AttachmentView</name>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+</context>
+<context>
     <name>Attachments</name>
     <message>
         <source>Select the file to attach:</source>
@@ -29,6 +36,17 @@
     <message>
         <source>Unable to show the message</source>
         <translation>Impossibile visualizzare il documento</translation>
+    </message>
+</context>
+<context>
+    <name>EditorCommands</name>
+    <message>
+        <source>Error</source>
+        <translation>Errore</translation>
+    </message>
+    <message>
+        <source>The editor cannot be started: %1</source>
+        <translation>Impossibile avviare l&apos;editor: %1</translation>
     </message>
 </context>
 <context>
@@ -202,6 +220,72 @@
     </message>
 </context>
 <context>
+    <name>RecipientModel</name>
+    <message>
+        <source>N°</source>
+        <translation>N°</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Indirizzo E-Mail</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stato</translation>
+    </message>
+</context>
+<context>
+    <name>RecipientView</name>
+    <message>
+        <source>Check</source>
+        <translation>Seleziona</translation>
+    </message>
+    <message>
+        <source>Uncheck</source>
+        <translation>Deseleziona</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Evidenzia</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Attesa</translation>
+    </message>
+    <message>
+        <source>Sending...</source>
+        <translation>Invio...</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Inviato</translation>
+    </message>
+    <message>
+        <source>Error!</source>
+        <translation>Errore!</translation>
+    </message>
+    <message>
+        <source>Not sent</source>
+        <translation>Non inviato</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Evidenzia tutto</translation>
+    </message>
+    <message>
+        <source>Copy as text</source>
+        <translation>Copia come testo</translation>
+    </message>
+</context>
+<context>
     <name>Recipients</name>
     <message>
         <source>New recipient</source>
@@ -292,6 +376,334 @@
     <message>
         <source>Select at least on type of message (text or HTML) and specify the message file.</source>
         <translation>Specificare almeno un tipo di messaggio (testo o HTML) da inviare.</translation>
+    </message>
+</context>
+<context>
+    <name>WindowLifecycle</name>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Save changes before exit?</source>
+        <translation>Salvare le modifiche prima di uscire?</translation>
+    </message>
+</context>
+<context>
+    <name>frmAbout</name>
+    <message>
+        <source>About...</source>
+        <translation>Informazioni su Sorvanta...</translation>
+    </message>
+    <message>
+        <source>Sends one e-mail, personalised, to everybody on a list.</source>
+        <translation>Invia un&apos;e-mail, personalizzata, a tutti i nomi di un elenco.</translation>
+    </message>
+    <message>
+        <source>Free software: GNU General Public License, version 3 or later.</source>
+        <translation>Software libero: GNU General Public License, versione 3 o successiva.</translation>
+    </message>
+    <message>
+        <source>E-Mail:</source>
+        <translation>E-Mail:</translation>
+    </message>
+    <message>
+        <source>Web Site:</source>
+        <translation>Sito web:</translation>
+    </message>
+    <message>
+        <source>Telephone: %1</source>
+        <translation>Telefono: %1</translation>
+    </message>
+    <message>
+        <source>Fax: %1</source>
+        <translation>Fax: %1</translation>
+    </message>
+</context>
+<context>
+    <name>frmEditor</name>
+    <message>
+        <source>Select Editor</source>
+        <translation>Selezione Editor</translation>
+    </message>
+    <message>
+        <source>Text editor:</source>
+        <translation>Editor di testo:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Sfoglia...</translation>
+    </message>
+    <message>
+        <source>Browse for the text editor</source>
+        <translation>Sfoglia per l&apos;editor di testo</translation>
+    </message>
+    <message>
+        <source>HTML editor:</source>
+        <translation>Editor HTML:</translation>
+    </message>
+    <message>
+        <source>Browse for the HTML editor</source>
+        <translation>Sfoglia per l&apos;editor HTML</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Program File (*.exe)|*.exe|All files (*.*)|*.*</source>
+        <translation>Program File (*.exe)|*.exe|Tutti i file (*.*)|*.*</translation>
+    </message>
+</context>
+<context>
+    <name>frmMain</name>
+    <message>
+        <source>Sender Name:</source>
+        <translation>Nome Mittente:</translation>
+    </message>
+    <message>
+        <source>Sender E-Mail:</source>
+        <translation>E-Mail Mittente:</translation>
+    </message>
+    <message>
+        <source>SMTP Server:</source>
+        <translation>Server SMTP:</translation>
+    </message>
+    <message>
+        <source>mail.example.org or mail.example.org:587</source>
+        <translation>mail.example.org o mail.example.org:587</translation>
+    </message>
+    <message>
+        <source>Subject:</source>
+        <translation>Oggetto:</translation>
+    </message>
+    <message>
+        <source>Text Message:</source>
+        <translation>Messaggio Testo:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Sfoglia...</translation>
+    </message>
+    <message>
+        <source>Browse for the text message</source>
+        <translation>Sfoglia per il messaggio di testo</translation>
+    </message>
+    <message>
+        <source>New/Edit</source>
+        <translation>Nuovo/Modifica</translation>
+    </message>
+    <message>
+        <source>New or edit text message</source>
+        <translation>Nuovo messaggio di testo o modifica</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Cancella</translation>
+    </message>
+    <message>
+        <source>Clear the text message</source>
+        <translation>Cancella il messaggio di testo</translation>
+    </message>
+    <message>
+        <source>HTML Message:</source>
+        <translation>Messaggio HTML:</translation>
+    </message>
+    <message>
+        <source>Browse for the HTML message</source>
+        <translation>Sfoglia per il messaggio HTML</translation>
+    </message>
+    <message>
+        <source>New or edit HTML message</source>
+        <translation>Nuovo messaggio HTML o modifica</translation>
+    </message>
+    <message>
+        <source>Clear the HTML message</source>
+        <translation>Cancella il messaggio HTML</translation>
+    </message>
+    <message>
+        <source>Return Receipt</source>
+        <translation>Ricevuta di ritorno</translation>
+    </message>
+    <message>
+        <source>Send to more recipients at the same time</source>
+        <translation>Invia a più destinatari contemporaneamente</translation>
+    </message>
+    <message>
+        <source>N° of messages in a packet:</source>
+        <translation>N° di messaggi per pacchetto:</translation>
+    </message>
+    <message>
+        <source>Delay between packets [min]:</source>
+        <translation>Attesa tra i pacchetti [min]:</translation>
+    </message>
+    <message>
+        <source>Attachments:</source>
+        <translation>Allegati:</translation>
+    </message>
+    <message>
+        <source>Attachments</source>
+        <translation>Allegati</translation>
+    </message>
+    <message>
+        <source>Add...</source>
+        <translation>Aggiungi...</translation>
+    </message>
+    <message>
+        <source>Add an attachment</source>
+        <translation>Aggiungi un allegato</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Remove the attachment</source>
+        <translation>Rimuovi l&apos;allegato</translation>
+    </message>
+    <message>
+        <source>Message Size:</source>
+        <translation>Dimensione messaggio:</translation>
+    </message>
+    <message>
+        <source>Recipients:</source>
+        <translation>Destinatari:</translation>
+    </message>
+    <message>
+        <source>Recipients file</source>
+        <translation>File dei destinatari</translation>
+    </message>
+    <message>
+        <source>Import from text file...</source>
+        <translation>Importa da un file di testo...</translation>
+    </message>
+    <message>
+        <source>Import from address book...</source>
+        <translation>Importa dalla rubrica...</translation>
+    </message>
+    <message>
+        <source>Recipients</source>
+        <translation>Destinatari</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Aggiungi</translation>
+    </message>
+    <message>
+        <source>Add a recipient</source>
+        <translation>Aggiungi un destinatario</translation>
+    </message>
+    <message>
+        <source>Remove the selected recipients</source>
+        <translation>Rimuovi i destinatari selezionati</translation>
+    </message>
+    <message>
+        <source>Check</source>
+        <translation>Seleziona</translation>
+    </message>
+    <message>
+        <source>Check the selected recipients</source>
+        <translation>Spunta i destinatari selezionati</translation>
+    </message>
+    <message>
+        <source>Uncheck</source>
+        <translation>Deseleziona</translation>
+    </message>
+    <message>
+        <source>Uncheck the selected recipients</source>
+        <translation>Togli la spunta ai destinatari selezionati</translation>
+    </message>
+    <message>
+        <source>Control E-Mail:</source>
+        <translation>E-Mail controllo:</translation>
+    </message>
+    <message>
+        <source>Progress of the run</source>
+        <translation>Avanzamento dell&apos;invio</translation>
+    </message>
+    <message>
+        <source>Total time:</source>
+        <translation>Tempo trascorso:</translation>
+    </message>
+    <message>
+        <source>Remaining:</source>
+        <translation>Tempo rimanente:</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nuovo</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Apri</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Save as...</source>
+        <translation>Salva con nome...</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;?</source>
+        <translation>&amp;?</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Nuovo</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Apri</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Salva</translation>
+    </message>
+    <message>
+        <source>S&amp;ave as...</source>
+        <translation>S&amp;alva con nome...</translation>
+    </message>
+    <message>
+        <source>Select &amp;editor...</source>
+        <translation>Selezione &amp;editor...</translation>
+    </message>
+    <message>
+        <source>&amp;Exit</source>
+        <translation>&amp;Esci</translation>
+    </message>
+    <message>
+        <source>&amp;Address Book</source>
+        <translation>&amp;Rubrica</translation>
+    </message>
+    <message>
+        <source>Getting started...</source>
+        <translation>&amp;Come cominciare...</translation>
+    </message>
+    <message>
+        <source>&amp;Help...</source>
+        <translation>&amp;Guida...</translation>
+    </message>
+    <message>
+        <source>&amp;About...</source>
+        <translation>&amp;Informazioni su Sorvanta...</translation>
     </message>
 </context>
 </TS>

@@ -16,6 +16,8 @@ public:
     /// Opens an address: "file://", "https://" or "mailto:" and what follows. What comes of it is
     /// not known.
     virtual void open(const QString &address) = 0;
-    /// False when there is no such program or it cannot be started.
+    /// Whether there is a program of that path, or of that name where the system looks for them.
+    [[nodiscard]] virtual bool isProgram(const QString &name) const = 0;
+    /// False when the program cannot be started.
     virtual bool start(const QString &program, const QStringList &arguments) = 0;
 };

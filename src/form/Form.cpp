@@ -86,3 +86,15 @@ void Form::setRunState(RunState state, const char *reason)
     if (changes)
         Q_EMIT runStateChanged(state);
 }
+
+void Form::countProjectReplaced()
+{
+    ++m_situation.project;
+    Q_EMIT situationChanged();
+}
+
+void Form::countRunChanged()
+{
+    ++m_situation.run;
+    Q_EMIT situationChanged();
+}

@@ -55,13 +55,14 @@ public:
     [[nodiscard]] bool isEnabled(Control control) const { return ::isEnabled(control, m_runState); }
 
     [[nodiscard]] Situation situation() const { return m_situation; }
-    void countProjectReplaced() { ++m_situation.project; }
-    void countRunChanged() { ++m_situation.run; }
+    void countProjectReplaced();
+    void countRunChanged();
 
 Q_SIGNALS:
     void changed(Control control);
     void captionChanged();
     void runStateChanged(RunState state);
+    void situationChanged();
 
 private:
     struct Content

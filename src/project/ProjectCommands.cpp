@@ -81,10 +81,20 @@ void ProjectCommands::newProject()
 
 void ProjectCommands::cmdApri_Click()
 {
-    m_engine.turns().take([this] {
+    offerToOpen([this] { chooseProject(); });
+}
+
+void ProjectCommands::openInstead(const QString &path)
+{
+    offerToOpen([this, path] { open(path); });
+}
+
+void ProjectCommands::offerToOpen(std::function<void()> then)
+{
+    m_engine.turns().take([this, then = std::move(then)] {
         if (m_form.isEnabled(Control::cmdApri)) {
             offerToSave(Topic::SaveBeforeOpen, tr("Save changes before open another project?"),
-                        Control::cmdApri, [this] { chooseProject(); });
+                        Control::cmdApri, then);
         }
     });
 }

@@ -45,6 +45,8 @@ public:
 
     /// The save command for another command that asked for it, also where the button is disabled.
     void save(std::function<void(SaveOutcome)> then);
+    /// Open with its file already chosen: asks about unsaved changes, then loads it.
+    void openInstead(const QString &path);
     /// Loads a project as Open does once its file is chosen.
     LoadOutcome open(const QString &path);
     void UpdateCaption();
@@ -53,6 +55,7 @@ private:
     void offerToSave(Topic topic, const QString &text, Control command, std::function<void()> then);
     void saveAs(std::function<void(SaveOutcome)> then);
     void newProject();
+    void offerToOpen(std::function<void()> then);
     void chooseProject();
     [[nodiscard]] Stands whileSameProject() const;
 

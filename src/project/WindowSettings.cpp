@@ -31,12 +31,15 @@ void WindowSettings::LoadSettings()
     m_form.setText(Control::txtPausa, text(Settings::Pausa));
     reg.ReadInt(Settings::MultiSend, holder);
     m_form.setChecked(Control::chkMultiSend, holder != 0);
-    HTMLEditorPath = text(Settings::HTMLEditor);
-    TXTEditorPath = text(Settings::TXTEditor);
-    if (TXTEditorPath.isEmpty())
-        TXTEditorPath = QStringLiteral("notepad.exe");
-    if (HTMLEditorPath.isEmpty())
-        HTMLEditorPath = joinPath(m_programFolder, QStringLiteral("htmledit.exe"));
+    setEditors(text(Settings::TXTEditor), text(Settings::HTMLEditor));
+}
+
+void WindowSettings::setEditors(const QString &textEditor, const QString &htmlEditor)
+{
+    TXTEditorPath = textEditor.isEmpty() ? QStringLiteral("notepad.exe") : textEditor;
+    HTMLEditorPath = htmlEditor.isEmpty()
+                         ? joinPath(m_programFolder, QStringLiteral("htmledit.exe"))
+                         : htmlEditor;
 }
 
 void WindowSettings::SaveSettings() const

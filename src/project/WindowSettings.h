@@ -15,6 +15,8 @@ public:
 
     void LoadSettings();
     void SaveSettings() const;
+    /// Sets the commands of the two editors; an empty one becomes its default.
+    void setEditors(const QString &textEditor, const QString &htmlEditor);
 
     QString HTMLEditorPath; ///< the command of the HTML editor
     QString TXTEditorPath;  ///< the command of the text editor

@@ -69,3 +69,9 @@ void SendingEngine::settle(const SettledMessage &settlement)
     for (const auto &then : waiting)
         then(settlement);
 }
+
+Progress SendingEngine::progress() const
+{
+    const int total = m_recipients.checkedFrom(1);
+    return {total - m_recipients.checkedFrom(m_session.nextRecipientIndex), total};
+}

@@ -26,6 +26,13 @@ enum class SaveOutcome {
     Failed,
 };
 
+/// How many of the checked recipients a run has finished, and of how many.
+struct Progress
+{
+    int done = 0;
+    int total = 0;
+};
+
 /// What the engine works with. All of it outlives the engine.
 struct EngineParts
 {
@@ -81,6 +88,7 @@ public:
 
     [[nodiscard]] qint32 nextRecipientIndex() const { return m_session.nextRecipientIndex; }
     void setNextRecipientIndex(qint32 index);
+    [[nodiscard]] Progress progress() const;
     /// The identity of the row that this run appended for the control address; 0 without one.
     [[nodiscard]] quint64 controlRow() const { return m_controlRow; }
 

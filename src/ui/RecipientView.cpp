@@ -1,0 +1,225 @@
+#include "ui/RecipientView.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <unordered_set>
+
+RecipientView::RecipientView(QWidget *parent) : QTreeView(parent)
+{
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    // Rows of one height spare the view from measuring each of tens of thousands.
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setAlternatingRowColors(true);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    header()->setSectionsClickable(true);
+    header()->setSortIndicatorShown(true);
+    header()->setStretchLastSection(false);
+    connect(header(), &QHeaderView::sectionClicked, this, [this](int section) {
+        if (!m_readOnly)
+            Q_EMIT headingClicked(section + 1);
+        showSortOrder();
+    });
+}
+
+void RecipientView::setRecipients(RecipientModel *model, Language language)
+{
+    m_language = language;
+    m_model = model;
+    setModel(model);
+    connect(model, &QAbstractItemModel::modelAboutToBeReset, this, &RecipientView::rememberRows);
+    // Connected behind the view's own, which forgets the selection.
+    connect(model, &QAbstractItemModel::modelReset, this, &RecipientView::restoreRows);
+    connect(model, &RecipientModel::published, this, &RecipientView::follow);
+    showSortOrder();
+}
+
+void RecipientView::setReadOnly(bool readOnly)
+{
+    m_readOnly = readOnly;
+    m_model->setEditable(!readOnly);
+    header()->setSectionsClickable(!readOnly);
+}
+
+std::vector<int> RecipientView::selectedPositions() const
+{
+    // The ranges, not the rows one by one: those take seconds when many are scattered.
+    std::vector<int> positions;
+    for (const QItemSelectionRange &range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            positions.push_back(row + 1);
+    }
+    std::sort(positions.begin(), positions.end());
+    positions.erase(std::unique(positions.begin(), positions.end()), positions.end());
+    return positions;
+}
+
+void RecipientView::select(const std::vector<int> &positions)
+{
+    QItemSelection selection;
+    const int lastColumn = m_model->columnCount() - 1;
+    for (auto first = positions.begin(); first != positions.end();) {
+        auto last = first;
+        while (std::next(last) != positions.end() && *std::next(last) == *last + 1)
+            ++last;
+        selection.append(QItemSelectionRange(m_model->index(*first - 1, 0),
+                                             m_model->index(*last - 1, lastColumn)));
+        first = std::next(last);
+    }
+    // First none, then these: going over in one step compares every old range with every new one.
+    selectionModel()->clearSelection();
+    selectionModel()->select(selection, QItemSelectionModel::Select);
+}
+
+void RecipientView::selectAll()
+{
+    if (!m_readOnly)
+        QTreeView::selectAll();
+}
+
+void RecipientView::selectByState(RowState state)
+{
+    std::vector<int> positions;
+    int position = 0;
+    for (const Recipient &row : m_model->list().rows()) {
+        ++position;
+        if (stateOfWord(row.state) == state)
+            positions.push_back(position);
+    }
+    select(positions);
+    if (!positions.empty()) {
+        const QModelIndex first = m_model->index(positions.front() - 1, 0);
+        selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+        scrollTo(first);
+    }
+}
+
+QString RecipientView::selectedText() const
+{
+    QString text;
+    for (const int position : selectedPositions()) {
+        const Recipient &row = m_model->list().at(position);
+        text += row.number + u'\t' + row.name + u'\t' + row.address + u'\t' + row.state;
+        if (!row.reply.isEmpty())
+            text += u'\t' + row.reply.toText();
+        text += u'\n';
+    }
+    return text;
+}
+
+void RecipientView::copy() const
+{
+    QGuiApplication::clipboard()->setText(selectedText());
+}
+
+bool RecipientView::someSelectedIsUnchecked() const
+{
+    const std::vector<int> positions = selectedPositions();
+    return std::any_of(positions.begin(), positions.end(),
+                       [this](int position) { return !m_model->list().at(position).checked; });
+}
+
+void RecipientView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Copy)) {
+        copy();
+        return;
+    }
+    const bool isPlain = event->modifiers() == Qt::NoModifier;
+    if (isPlain && event->key() == Qt::Key_Insert) {
+        Q_EMIT addWanted();
+    } else if (isPlain && event->key() == Qt::Key_Delete) {
+        Q_EMIT removeWanted();
+    } else if (isPlain && event->key() == Qt::Key_Space) {
+        if (someSelectedIsUnchecked())
+            Q_EMIT checkWanted();
+        else
+            Q_EMIT uncheckWanted();
+    } else {
+        QTreeView::keyPressEvent(event);
+    }
+}
+
+void RecipientView::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (m_readOnly)
+        return;
+    auto *const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setObjectName(QStringLiteral("recipientMenu"));
+    const auto addForSelected = [this, menu](const QString &text, auto what) {
+        menu->addAction(text, this, what)->setEnabled(selectionModel()->hasSelection());
+    };
+    addForSelected(tr("Check"), &RecipientView::checkWanted);
+    addForSelected(tr("Uncheck"), &RecipientView::uncheckWanted);
+    addForSelected(tr("Remove"), &RecipientView::removeWanted);
+    menu->addSeparator();
+    QMenu *const states = menu->addMenu(tr("Select"));
+    for (const RowState state : {RowState::Waiting, RowState::Sending, RowState::Sent,
+                                 RowState::Error, RowState::NotSent}) {
+        states->addAction(stateWord(state, m_language), this,
+                          [this, state] { selectByState(state); });
+    }
+    menu->addAction(tr("Select all"), this, &RecipientView::selectAll);
+    menu->addSeparator();
+    addForSelected(tr("Copy as text"), &RecipientView::copy);
+    menu->popup(event->globalPos());
+}
+
+void RecipientView::showSortOrder()
+{
+    const RecipientList &list = m_model->list();
+    header()->setSortIndicator(static_cast<int>(list.sortColumn()), list.sortOrder());
+}
+
+void RecipientView::rememberRows()
+{
+    m_selectedIds.clear();
+    for (const int position : selectedPositions())
+        m_selectedIds.push_back(m_model->idAt(position));
+    m_firstVisible = verticalScrollBar()->value();
+}
+
+void RecipientView::restoreRows()
+{
+    if (!m_selectedIds.empty()) {
+        const std::unordered_set<quint64> ids(m_selectedIds.begin(), m_selectedIds.end());
+        m_selectedIds.clear();
+        std::vector<int> positions;
+        for (int position = 1; position <= m_model->rowCount(); ++position) {
+            if (ids.contains(m_model->idAt(position)))
+                positions.push_back(position);
+        }
+        select(positions);
+    }
+    m_shownCurrent = 0;
+    m_shownInView = 0;
+    executeDelayedItemsLayout();
+    verticalScrollBar()->setValue(m_firstVisible);
+    showSortOrder();
+}
+
+// The row that is being sent becomes the current one, at the rate at which the list publishes.
+void RecipientView::follow()
+{
+    const RecipientList &list = m_model->list();
+    if (list.currentRow() != m_shownCurrent && list.currentRow() != 0) {
+        m_shownCurrent = list.currentRow();
+        selectionModel()->setCurrentIndex(m_model->index(m_shownCurrent - 1, 0),
+                                          QItemSelectionModel::ClearAndSelect |
+                                              QItemSelectionModel::Rows);
+    }
+    if (list.rowInView() != m_shownInView && list.rowInView() != 0) {
+        m_shownInView = list.rowInView();
+        scrollTo(m_model->index(m_shownInView - 1, 0));
+    }
+}

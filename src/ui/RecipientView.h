@@ -1,0 +1,61 @@
+#pragma once
+
+#include "ui/RecipientModel.h"
+
+#include <QTreeView>
+
+#include <functional>
+#include <vector>
+
+/// The recipient list on the screen. It knows no procedures: it says what the user wants of it.
+class RecipientView : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    explicit RecipientView(QWidget *parent = nullptr);
+
+    /// Shows that list, with the words of that language; called once.
+    void setRecipients(RecipientModel *model, Language language);
+    /// While a run is shown the list can be looked at and nothing else.
+    void setReadOnly(bool readOnly);
+
+    /// The positions of the selected rows, 1-based and ascending.
+    [[nodiscard]] std::vector<int> selectedPositions() const;
+    /// Selects these rows (positions 1-based, ascending) and no others.
+    void select(const std::vector<int> &positions);
+    /// Selects the rows of that state, whichever language its word is in.
+    void selectByState(RowState state);
+    /// The selected rows as lines of text, their columns set apart by tabs.
+    [[nodiscard]] QString selectedText() const;
+
+    void selectAll() override;
+
+Q_SIGNALS:
+    /// The heading of the column of that place, 1-based, was clicked.
+    void headingClicked(int place);
+    void addWanted();
+    void removeWanted();
+    void checkWanted();
+    void uncheckWanted();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+
+private:
+    void rememberRows();
+    void restoreRows();
+    void follow();
+    void copy() const;
+    void showSortOrder();
+    [[nodiscard]] bool someSelectedIsUnchecked() const;
+
+    RecipientModel *m_model = nullptr;
+    Language m_language = Language::English;
+    bool m_readOnly = false;
+    std::vector<quint64> m_selectedIds; ///< while the model is being reset
+    int m_firstVisible = 0;
+    int m_shownCurrent = 0;
+    int m_shownInView = 0;
+};

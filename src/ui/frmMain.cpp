@@ -1,0 +1,278 @@
+#include "ui/frmMain.h"
+
+#include "base/HelpPages.h"
+#include "ui/FileDrops.h"
+#include "ui/Pictures.h"
+#include "ui/RecipientModel.h"
+#include "ui/frmAbout.h"
+#include "ui/frmEditor.h"
+#include "ui_frmMain.h"
+
+#include <QCloseEvent>
+
+#include <array>
+
+namespace {
+
+// The size of the pictures of the three buttons of a run.
+constexpr int RunPictureSize = 24;
+
+} // namespace
+
+frmMain::frmMain(const WindowParts &parts)
+    : m_ui(std::make_unique<Ui::frmMain>()),
+      m_workspace(parts.workspace),
+      m_form(parts.workspace.form),
+      m_prompts(parts.prompts),
+      m_shell(parts.shell),
+      m_programFolder(parts.programFolder),
+      m_helpFolder(parts.helpFolder),
+      m_editors(m_form, m_workspace.messageFiles, m_workspace.size, m_workspace.windowSettings,
+                parts.prompts, parts.shell),
+      m_lifecycle(m_form, m_workspace.projectCommands, m_workspace.projectFile,
+                  m_workspace.windowSettings, m_workspace.engine, parts.prompts, parts.endProcess),
+      m_place(parts.placeFile),
+      m_recipients(new RecipientModel(m_workspace.recipients, this))
+{
+    m_ui->setupUi(this);
+    setWindowIcon(Pictures::icon("application"));
+    m_ui->mnuFile->insertSeparator(m_ui->mnuEditor)->setObjectName(QStringLiteral("mnuSep1"));
+    m_ui->mnuFile->insertSeparator(m_ui->mnuEsci)->setObjectName(QStringLiteral("mnuSep4"));
+    m_ui->mnuHelp->insertSeparator(m_ui->mnuAbout)->setObjectName(QStringLiteral("mnuSep2"));
+
+    m_binding = new FormBinding(m_form, *this);
+    bindCommands();
+    bindLists();
+    bindShortcuts();
+    bindDrops();
+    m_binding->applyRunState();
+    applyRunState();
+
+    connect(&m_form, &Form::runStateChanged, this, &frmMain::applyRunState);
+    connect(&m_form, &Form::captionChanged, this, [this] { setWindowTitle(m_form.caption()); });
+    m_hasPlace = m_place.restore(*this, *m_ui->splitter, *m_ui->lstDestinatari->header());
+    m_lifecycle.beforeUnload = [this] {
+        m_place.save(*this, *m_ui->splitter, *m_ui->lstDestinatari->header());
+    };
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::Form_Load(const QString &projectPath)
+{
+    m_lifecycle.Form_Load(projectPath);
+}
+
+void frmMain::endSession()
+{
+    m_lifecycle.Form_QueryUnload(UnloadMode::SessionEnds);
+}
+
+void frmMain::closeEvent(QCloseEvent *event)
+{
+    // The window stays: when it may close, the process ends with it.
+    event->ignore();
+    m_lifecycle.Form_QueryUnload(UnloadMode::User);
+}
+
+void frmMain::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    if (!m_hasPlace && !event->spontaneous())
+        fitColumns();
+}
+
+void frmMain::command(Control control, std::function<void()> procedure)
+{
+    m_binding->markAsCommand(control);
+    QObject *const object = m_binding->objectOf(control);
+    if (auto *const button = qobject_cast<QPushButton *>(object))
+        connect(button, &QPushButton::clicked, this, std::move(procedure));
+    else if (auto *const action = qobject_cast<QAction *>(object))
+        connect(action, &QAction::triggered, this, std::move(procedure));
+}
+
+void frmMain::bindCommands()
+{
+    Workspace &w = m_workspace;
+    const auto newProject = [&w] { w.projectCommands.cmdNuovo_Click(); };
+    const auto openProject = [&w] { w.projectCommands.cmdApri_Click(); };
+    const auto save = [&w] { w.projectCommands.cmdSave_Click(); };
+    const auto saveAs = [&w] { w.projectCommands.cmdSaveAs_Click(); };
+    command(Control::cmdNuovo, newProject);
+    command(Control::mnuNuovo, newProject);
+    command(Control::cmdApri, openProject);
+    command(Control::mnuApri, openProject);
+    command(Control::cmdSave, save);
+    command(Control::mnuSalva, save);
+    command(Control::cmdSaveAs, saveAs);
+    command(Control::mnuSalvaConNome, saveAs);
+    command(Control::mnuEditor, [this] { mnuEditor_Click(); });
+    command(Control::mnuEsci, [this] { m_lifecycle.mnuEsci_Click(); });
+    // The same pages in both languages.
+    command(Control::mnuCominciare,
+            [this] { openHelpPage(QStringLiteral("/Help/Tutorial/come_cominciare.htm")); });
+    command(Control::mnuContenuti, [this] { openHelpPage(QStringLiteral("/Help/ita_help.htm")); });
+    command(Control::mnuAbout, [this] { mnuAbout_Click(); });
+
+    command(Control::cmdAvvio, [&w] { w.engine.cmdAvvio_Click(); });
+    command(Control::cmdPausa, [&w] { w.engine.cmdPausa_Click(); });
+    command(Control::cmdStop, [&w] { w.engine.cmdStop_Click(); });
+
+    command(Control::cmdEmail, [&w] { w.messageFiles.cmdEmail_Click(); });
+    command(Control::cmdHTML, [&w] { w.messageFiles.cmdHTML_Click(); });
+    command(Control::cmdCancellaTXT, [&w] { w.messageFiles.cmdCancellaTXT_Click(); });
+    command(Control::cmdCancellaHTML, [&w] { w.messageFiles.cmdCancellaHTML_Click(); });
+    command(Control::cmdPreviewTXT, [this] { m_editors.cmdPreviewTXT_Click(); });
+    command(Control::cmdPreviewHTML, [this] { m_editors.cmdPreviewHTML_Click(); });
+    command(Control::cmdAggiungi, [&w] { w.attachmentCommands.cmdAggiungi_Click(); });
+    command(Control::cmdRimuovi, [this, &w] {
+        w.attachmentCommands.cmdRimuovi_Click(m_ui->lstAllegati->selectedPlace());
+    });
+
+    command(Control::cmdDestinatari, [&w] { w.recipientsFile.cmdDestinatari_Click(); });
+    command(Control::cmdAdd, [&w] { w.recipientCommands.cmdAdd_Click(); });
+    command(Control::cmdRemove, [this, &w] {
+        w.recipientCommands.cmdRemove_Click(m_ui->lstDestinatari->selectedPositions());
+    });
+    command(Control::cmdCheckAll, [this, &w] {
+        w.recipientCommands.cmdCheckAll_Click(m_ui->lstDestinatari->selectedPositions());
+    });
+    command(Control::cmdUncheckAll, [this, &w] {
+        w.recipientCommands.cmdUncheckAll_Click(m_ui->lstDestinatari->selectedPositions());
+    });
+}
+
+void frmMain::bindLists()
+{
+    Workspace &w = m_workspace;
+    RecipientView &view = *m_ui->lstDestinatari;
+    view.setRecipients(m_recipients, m_form.language());
+    connect(m_recipients, &RecipientModel::itemChecked, this, [&w](int position, bool checked) {
+        w.recipientCommands.lstDestinatari_ItemCheck(position, checked);
+    });
+    connect(m_recipients, &RecipientModel::published, this, &frmMain::showProgress);
+    connect(&view, &RecipientView::headingClicked, this,
+            [&w](int place) { w.recipientCommands.lstDestinatari_ColumnClick(place); });
+    // Keys and menu of the lists press the buttons, so that they can do no more than these.
+    connect(&view, &RecipientView::addWanted, m_ui->cmdAdd, &QPushButton::click);
+    connect(&view, &RecipientView::removeWanted, m_ui->cmdRemove, &QPushButton::click);
+    connect(&view, &RecipientView::checkWanted, m_ui->cmdCheckAll, &QPushButton::click);
+    connect(&view, &RecipientView::uncheckWanted, m_ui->cmdUncheckAll, &QPushButton::click);
+    m_ui->lstAllegati->setAttachments(w.attachments);
+    connect(m_ui->lstAllegati, &AttachmentView::addWanted, m_ui->cmdAggiungi, &QPushButton::click);
+    connect(m_ui->lstAllegati, &AttachmentView::removeWanted, m_ui->cmdRimuovi,
+            &QPushButton::click);
+}
+
+void frmMain::bindShortcuts()
+{
+    struct Key
+    {
+        QPushButton *button;
+        QAction *entry;
+        QKeySequence keys;
+    };
+    const std::array keys{
+        Key{m_ui->cmdNuovo, m_ui->mnuNuovo, QKeySequence(Qt::CTRL | Qt::Key_N)},
+        Key{m_ui->cmdApri, m_ui->mnuApri, QKeySequence(Qt::CTRL | Qt::Key_O)},
+        Key{m_ui->cmdSave, m_ui->mnuSalva, QKeySequence(Qt::CTRL | Qt::Key_S)},
+        Key{m_ui->cmdSaveAs, m_ui->mnuSalvaConNome, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)},
+    };
+    for (const Key &key : keys) {
+        // The button's, which works also where the menu is disabled; the menu only shows it.
+        key.button->setShortcut(key.keys);
+        key.button->setToolTip(key.keys.toString(QKeySequence::NativeText));
+        key.entry->setShortcut(key.keys);
+        key.entry->setShortcutContext(Qt::WidgetShortcut);
+    }
+}
+
+void frmMain::bindDrops()
+{
+    const auto isProject = [](const QString &path) {
+        return path.endsWith(QLatin1String(".svk"), Qt::CaseInsensitive);
+    };
+    new FileDrops(
+        *this,
+        [this, isProject](const QStringList &paths) {
+            return paths.size() == 1 && isProject(paths.front()) && m_ui->cmdApri->isEnabled();
+        },
+        [&w = m_workspace](const QStringList &paths) {
+            w.projectCommands.openInstead(paths.front());
+        });
+    new FileDrops(
+        *m_ui->lstDestinatari->viewport(),
+        [this, isProject](const QStringList &paths) {
+            return paths.size() == 1 && !isProject(paths.front()) &&
+                   m_ui->cmdDestinatari->isEnabled();
+        },
+        [&w = m_workspace](const QStringList &paths) {
+            w.recipientsFile.SetRecipientsFile(paths.front());
+        });
+    new FileDrops(
+        *m_ui->lstAllegati->viewport(),
+        [this](const QStringList &) { return m_ui->cmdAggiungi->isEnabled(); },
+        [&w = m_workspace](const QStringList &paths) {
+            for (const QString &path : paths)
+                w.attachmentCommands.attach(path);
+        });
+}
+
+void frmMain::applyRunState()
+{
+    m_ui->lstDestinatari->setReadOnly(!m_form.isEnabled(Control::lstDestinatari));
+    const bool isPaused = m_form.runState() == RunState::Paused;
+    m_ui->cmdPausa->setText(m_form.tag(Control::cmdPausa));
+    m_ui->cmdPausa->setIcon(Pictures::icon(isPaused ? "resume" : "pause"));
+    showProgress();
+}
+
+void frmMain::showProgress()
+{
+    // An idle window keeps what the last run reached.
+    if (m_form.runState() == RunState::Idle)
+        return;
+    const Progress progress = m_workspace.engine.progress();
+    m_ui->progress->setMaximum(qMax(1, progress.total));
+    m_ui->progress->setValue(progress.done);
+    m_ui->progress->setFormat(QStringLiteral("%1 / %2").arg(progress.done).arg(progress.total));
+}
+
+void frmMain::openHelpPage(const QString &page)
+{
+    m_shell.open(helpAddress(m_helpFolder, page));
+}
+
+void frmMain::mnuEditor_Click()
+{
+    auto *const chooser =
+        new frmEditor(m_workspace.windowSettings, m_prompts, m_programFolder, this);
+    chooser->setAttribute(Qt::WA_DeleteOnClose);
+    chooser->open();
+}
+
+void frmMain::mnuAbout_Click()
+{
+    auto *const about = new frmAbout(m_shell, this);
+    about->setAttribute(Qt::WA_DeleteOnClose);
+    about->open();
+}
+
+// The columns share the view as their design widths (in twentieths of a point: 1764, 5821, 6350 and
+// 1940) are to each other.
+void frmMain::fitColumns()
+{
+    constexpr std::array Widths{1764, 5821, 6350, 1940};
+    constexpr int Sum = Widths[0] + Widths[1] + Widths[2] + Widths[3];
+    const int room = m_ui->lstDestinatari->viewport()->width();
+    for (int column = 0; column < static_cast<int>(Widths.size()); ++column) {
+        const int width = Widths[static_cast<std::size_t>(column)];
+        m_ui->lstDestinatari->setColumnWidth(column, room * width / Sum);
+    }
+}
+
+frmMainIta::frmMainIta(const WindowParts &parts) : frmMain(parts)
+{
+    setObjectName(QStringLiteral("frmMainIta"));
+}

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "base/Shell.h"
+#include "project/EditorCommands.h"
+#include "project/WindowLifecycle.h"
+#include "project/Workspace.h"
+#include "ui/FormBinding.h"
+#include "ui/WindowPlace.h"
+
+#include <QMainWindow>
+
+#include <functional>
+#include <memory>
+
+class RecipientModel;
+
+namespace Ui {
+class frmMain;
+}
+
+/// What a main window works with. All of it outlives the window.
+struct WindowParts
+{
+    Workspace &workspace;
+    Prompts &prompts;
+    Shell &shell;
+    QString programFolder;
+    /// The folder that holds the help pages.
+    QString helpFolder;
+    /// Ends the process at once.
+    std::function<void()> endProcess;
+    /// Where the window's size is kept.
+    QString placeFile;
+};
+
+/// The main window with English texts: a view of the workspace. Each of its controls has its name
+/// in the form, and each command is a procedure of the core.
+class frmMain : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit frmMain(const WindowParts &parts);
+    ~frmMain() override;
+
+    /// Loads settings and, unless the path is empty, that project.
+    void Form_Load(const QString &projectPath);
+    /// The desktop's session ends, or the program was asked to end.
+    void endSession();
+
+    /// What a paint of a whole list and the rate of publishing are measured by.
+    [[nodiscard]] RecipientModel &recipientModel() const { return *m_recipients; }
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void bindCommands();
+    void bindLists();
+    void bindShortcuts();
+    void bindDrops();
+    void command(Control control, std::function<void()> procedure);
+    void applyRunState();
+    void showProgress();
+    void fitColumns();
+
+    void mnuEditor_Click();
+    void mnuAbout_Click();
+    void openHelpPage(const QString &page);
+
+    std::unique_ptr<Ui::frmMain> m_ui;
+    Workspace &m_workspace;
+    Form &m_form;
+    Prompts &m_prompts;
+    Shell &m_shell;
+    QString m_programFolder;
+    QString m_helpFolder;
+    EditorCommands m_editors;
+    WindowLifecycle m_lifecycle;
+    WindowPlace m_place;
+    RecipientModel *m_recipients;
+    FormBinding *m_binding = nullptr;
+    bool m_hasPlace = false;
+};
+
+/// The same window with Italian texts.
+class frmMainIta : public frmMain
+{
+    Q_OBJECT
+
+public:
+    explicit frmMainIta(const WindowParts &parts);
+};

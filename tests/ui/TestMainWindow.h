@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QObject>
+
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyControlHasItsWidget();
+    void picture();
+};
