@@ -470,8 +470,8 @@
         <translation>Server SMTP:</translation>
     </message>
     <message>
-        <source>mail.example.org or mail.example.org:587</source>
-        <translation>mail.example.org o mail.example.org:587</translation>
+        <source>mail.example.org or mail.example.org:2525</source>
+        <translation>mail.example.org o mail.example.org:2525</translation>
     </message>
     <message>
         <source>Subject:</source>

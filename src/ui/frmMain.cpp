@@ -40,6 +40,11 @@ frmMain::frmMain(const WindowParts &parts)
     m_ui->mnuFile->insertSeparator(m_ui->mnuEsci)->setObjectName(QStringLiteral("mnuSep4"));
     m_ui->mnuHelp->insertSeparator(m_ui->mnuAbout)->setObjectName(QStringLiteral("mnuSep2"));
 
+    showPictures();
+    // What is dragged wider gives its room to the recipients.
+    m_ui->splitter->setStretchFactor(0, 0);
+    m_ui->splitter->setStretchFactor(1, 1);
+
     m_binding = new FormBinding(m_form, *this);
     bindCommands();
     bindLists();
@@ -80,6 +85,36 @@ void frmMain::showEvent(QShowEvent *event)
     QMainWindow::showEvent(event);
     if (!m_hasPlace && !event->spontaneous())
         fitColumns();
+}
+
+void frmMain::showPictures()
+{
+    struct Picture
+    {
+        QPushButton *button;
+        const char *name;
+    };
+    const std::array pictures{
+        Picture{m_ui->cmdNuovo, "new"},
+        Picture{m_ui->cmdApri, "open"},
+        Picture{m_ui->cmdSave, "save"},
+        Picture{m_ui->cmdSaveAs, "save-as"},
+        Picture{m_ui->cmdAvvio, "start"},
+        Picture{m_ui->cmdPausa, "pause"},
+        Picture{m_ui->cmdStop, "stop"},
+        Picture{m_ui->cmdAdd, "add"},
+        Picture{m_ui->cmdRemove, "remove"},
+        Picture{m_ui->cmdCheckAll, "check"},
+        Picture{m_ui->cmdUncheckAll, "uncheck"},
+        Picture{m_ui->cmdAggiungi, "attachment"},
+        Picture{m_ui->cmdRimuovi, "remove"},
+        Picture{m_ui->cmdDestinatari, "import"},
+        Picture{m_ui->cmdFromRubrica, "address-book"},
+    };
+    for (const Picture &picture : pictures)
+        picture.button->setIcon(Pictures::icon(picture.name));
+    for (QPushButton *const button : {m_ui->cmdAvvio, m_ui->cmdPausa, m_ui->cmdStop})
+        button->setIconSize({RunPictureSize, RunPictureSize});
 }
 
 void frmMain::command(Control control, std::function<void()> procedure)

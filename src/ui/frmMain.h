@@ -56,6 +56,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    void showPictures();
     void bindCommands();
     void bindLists();
     void bindShortcuts();

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QObject>
+#include "WindowTest.h"
 
-class TestMainWindow : public QObject
+class TestMainWindow : public WindowTest
 {
     Q_OBJECT
 
