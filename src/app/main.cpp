@@ -86,6 +86,13 @@ void Main(QApplication &application, Interrupts &interrupts)
     frmMain *const window =
         language == Language::Italian ? new frmMainIta(parts) : new frmMain(parts);
     program->prompts.setWindow(window);
+    // Questions about a project or a run that is gone close by themselves, once the procedure that
+    // ended it is through.
+    const Form &form = program->workspace.form;
+    QObject::connect(&form, &Form::situationChanged, &program->prompts, &WindowPrompts::closeStale,
+                     Qt::QueuedConnection);
+    QObject::connect(&form, &Form::runStateChanged, &program->prompts, &WindowPrompts::closeStale,
+                     Qt::QueuedConnection);
     window->Form_Load(projectOfCommandLine(QCoreApplication::arguments().sliced(1)));
     window->show();
     QObject::connect(&interrupts, &Interrupts::interrupted, window, &frmMain::endSession);

@@ -37,8 +37,10 @@ void FormBinding::show(Control control)
 {
     if (auto *const edit = qobject_cast<QLineEdit *>(objectOf(control))) {
         // Not when it is the same: the cursor would jump to the end while the user types.
-        if (edit->text() != m_form.text(control))
+        if (edit->text() != m_form.text(control)) {
             edit->setText(m_form.text(control));
+            edit->setCursorPosition(0);
+        }
         edit->setToolTip(m_form.tag(control));
     } else if (auto *const box = qobject_cast<QCheckBox *>(objectOf(control))) {
         box->setChecked(m_form.isChecked(control));
