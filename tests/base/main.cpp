@@ -1,5 +1,6 @@
 #include "TestCodePage.h"
 #include "TestFiles.h"
+#include "TestHelpPages.h"
 #include "TestInputFields.h"
 #include "TestLines.h"
 #include "TestModMain.h"
@@ -14,5 +15,6 @@ int main(int argc, char **argv)
     if (TestCodePage::runAsSecondProgram(argc, argv))
         return 0;
     return runTests<TestCodePage, TestLines, TestInputFields, TestNumbers, TestModMain, TestFiles,
-                    TestProgramFolder, TestRegionalFormats, TestServerReply>(argc, argv);
+                    TestProgramFolder, TestRegionalFormats, TestServerReply, TestHelpPages>(argc,
+                                                                                            argv);
 }

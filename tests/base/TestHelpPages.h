@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QObject>
+
+class TestHelpPages : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void spacesOfTheProgramFolderStayUnchanged();
+    void backslashesBecomeSlashes();
+    void helpBesideTheProgramComesFirst();
+    void installedHelpIsFoundBesideTheExecutable();
+};
