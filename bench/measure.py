@@ -23,6 +23,7 @@ BUILD = Path(sys.argv[1])
 MESSAGES = int(sys.argv[2])
 MESSAGES_WITH_ATTACHMENT = max(MESSAGES // 5, 20)
 MESSAGES_OVER_A_NETWORK = 100
+MESSAGES_WITH_A_WINDOW = 5000
 ROUND_TRIP_MS = 50
 LONGEST_LIST = 32767
 MIB = 1024 * 1024
@@ -56,6 +57,39 @@ class Server:
             connection = json.loads(self.process.stdout.readline())
             if connection["messages"] > 0:
                 return connection
+
+
+class Screen:
+    """An X server without a screen, for the length of the block."""
+
+    def __enter__(self):
+        read, write = os.pipe()
+        self.process = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp"],
+            pass_fds=[write],
+            stderr=subprocess.DEVNULL,
+        )
+        os.close(write)
+        with os.fdopen(read) as said:
+            self.display = ":" + said.readline().strip()
+        return self
+
+    def __exit__(self, *_):
+        self.process.terminate()
+        self.process.wait()
+
+    def window(self, folder, *arguments):
+        """What bench_window says of a window on this screen."""
+        environment = dict(
+            os.environ, DISPLAY=self.display, QT_QPA_PLATFORM="xcb", XDG_CONFIG_HOME=str(folder)
+        )
+        said = subprocess.run(
+            [BUILD / "bin" / "bench_window", *arguments],
+            check=True,
+            stdout=subprocess.PIPE,
+            env=environment,
+        )
+        return json.loads(said.stdout)
 
 
 class Usage:
@@ -116,10 +150,10 @@ class Bench:
         self.attachment.write_bytes(random.Random(1).randbytes(MIB))
         self.table = Table()
 
-    def send(self, port, count, attachments=()):
-        """Sorvanta's own mailing."""
+    def project(self, port, count, attachments=()):
+        """The project of a mailing."""
         rows = [Row(f"Recipient {i}", f"recipient{i}@bench.example") for i in range(1, count + 1)]
-        project = Project(
+        return Project(
             server=f"127.0.0.1:{port}",
             rows=rows,
             text=self.text,
@@ -127,6 +161,10 @@ class Bench:
             packet=min(count, LONGEST_LIST),
             attachments=list(attachments),
         ).write(self.folder / "bench.svk")
+
+    def send(self, port, count, attachments=()):
+        """Sorvanta's own mailing."""
+        project = self.project(port, count, attachments)
         return Usage([BUILD / "bin" / "sorvanta-cli", "send", project])
 
     def others(self, port, count, attachments=()):
@@ -222,6 +260,37 @@ class Bench:
         )
 
 
+    def measure_window(self):
+        """What a window adds to a run, and how long it stands still."""
+        progress(f"{MESSAGES_WITH_A_WINDOW} messages behind a window")
+        with Screen() as screen, Server("bench_sink", "chunking") as sink:
+            project = self.project(sink.port, MESSAGES_WITH_A_WINDOW)
+            command = BUILD / "bin" / "sorvanta-cli"
+            # Without a window, less what starting and reading the project costs.
+            bare = Usage([command, "send", project]).cpu - Usage([command, "check", project]).cpu
+            run = screen.window(self.folder, "run", project)
+            assert not run["failed"]
+            rows = [
+                Row(f"Zoë Recipient {i}", f"recipient{i}@bench.example", state)
+                for i, state in enumerate(
+                    random.Random(3).choices(["Sent", "Waiting"], k=LONGEST_LIST), 1
+                )
+            ]
+            long_list = Project(server="127.0.0.1", rows=rows).write(self.folder / "states.svk")
+            actions = screen.window(self.folder, "list", long_list)
+        count = f"{MESSAGES_WITH_A_WINDOW:,}"
+        share = 100 * (run["processor"] - bare) / run["seconds"]
+        self.table.add(f"window, run of {count}, share of a core", share, "%", most=5)
+        stall = run["longest"] * 1000
+        self.table.add(f"window, run of {count}, longest stall", stall, "ms", most=50)
+        opening = actions.pop("open")
+        self.table.add(f"window, {LONGEST_LIST:,} recipients, open", opening, "s", most=0.5)
+        for action, seconds in actions.items():
+            self.table.add(
+                f"window, {LONGEST_LIST:,} recipients, {action}", seconds * 1000, "ms", most=100
+            )
+
+
 def progress(what):
     """Says what is being measured."""
     print(f"Measuring {what} ...", file=sys.stderr, flush=True)
@@ -235,6 +304,7 @@ def main():
         bench.measure_attachment()
         bench.measure_network()
         bench.measure_lists()
+        bench.measure_window()
     bench.table.show()
     return 1 if bench.table.missed else 0
 

@@ -1,17 +1,7 @@
-#include "base/CodePage.h"
-#include "base/HelpPages.h"
-#include "base/Host.h"
+#include "app/Program.h"
 #include "base/Interrupts.h"
-#include "base/ProgramFolder.h"
-#include "base/RegionalFormats.h"
 #include "settings/IOReg.h"
-#include "settings/RegFileStore.h"
 #include "settings/Settings.h"
-#include "smtp/client/HostName.h"
-#include "smtp/client/SmtpClient.h"
-#include "ui/DesktopShell.h"
-#include "ui/WindowPrompts.h"
-#include "ui/frmMain.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -20,28 +10,6 @@
 #include <cstdlib>
 
 namespace {
-
-// Everything that lives as long as the window; never destroyed, since the process ends at once.
-struct Program
-{
-    explicit Program(Language language)
-        : workspace({language, prompts, AppLog, settings, SMTP, clock, formats, codePage, Timer,
-                     Timer2, folder, computerName()})
-    {}
-
-    SystemClock clock;
-    SystemFormats formats;
-    CodePage codePage = CodePage::ofSystem();
-    QString folder = programFolder();
-    RegFileStore settings{RegFileStore::defaultFile()};
-    CLog AppLog{folder, clock, formats, codePage};
-    SmtpClient SMTP{clock, {}, ownHostName()};
-    SystemSecondTimer Timer;
-    SystemSecondTimer Timer2;
-    WindowPrompts prompts;
-    DesktopShell shell;
-    Workspace workspace;
-};
 
 Language chosenLanguage()
 {
@@ -75,28 +43,12 @@ void Main(QApplication &application, Interrupts &interrupts)
     const Language language = chosenLanguage();
     if (language == Language::Italian)
         speakItalian(application);
-    auto *const program = new Program(language);
-    const WindowParts parts{program->workspace,
-                            program->prompts,
-                            program->shell,
-                            program->folder,
-                            folderOfHelp(program->folder, QCoreApplication::applicationDirPath()),
-                            endProcess,
-                            WindowPlace::defaultFile()};
-    frmMain *const window =
-        language == Language::Italian ? new frmMainIta(parts) : new frmMain(parts);
-    program->prompts.setWindow(window);
-    // Questions about a project or a run that is gone close by themselves, once the procedure that
-    // ended it is through.
-    const Form &form = program->workspace.form;
-    QObject::connect(&form, &Form::situationChanged, &program->prompts, &WindowPrompts::closeStale,
-                     Qt::QueuedConnection);
-    QObject::connect(&form, &Form::runStateChanged, &program->prompts, &WindowPrompts::closeStale,
-                     Qt::QueuedConnection);
-    window->Form_Load(projectOfCommandLine(QCoreApplication::arguments().sliced(1)));
-    window->show();
-    QObject::connect(&interrupts, &Interrupts::interrupted, window, &frmMain::endSession);
-    QObject::connect(&application, &QGuiApplication::commitDataRequest, window,
+    // Never destroyed: the process ends at once.
+    frmMain &window = *(new Program(language, endProcess))->window;
+    window.Form_Load(projectOfCommandLine(QCoreApplication::arguments().sliced(1)));
+    window.show();
+    QObject::connect(&interrupts, &Interrupts::interrupted, &window, &frmMain::endSession);
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
                      &frmMain::endSession);
 }
 

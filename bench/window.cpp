@@ -1,0 +1,178 @@
+// How the window holds up: what a run costs with it, and for how long it stands still.
+//
+//     bench_window run PROJECT      sends the project
+//     bench_window list PROJECT     opens the project, sorts, selects, checks, removes
+//
+// Prints one line of JSON. A stall is the time from which on the event loop handles one event until
+// it is through with it. Times are in seconds.
+
+#include "app/Program.h"
+#include "ui/RecipientView.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTimer>
+
+#include <cstdio>
+#include <cstring>
+
+#include <sys/resource.h>
+
+namespace {
+
+double processorTime()
+{
+    rusage usage = {};
+    getrusage(RUSAGE_SELF, &usage);
+    const auto seconds = [](const timeval &time) {
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+    };
+    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+/// Times every event.
+class TimingApplication : public QApplication
+{
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject *receiver, QEvent *event) override
+    {
+        if (m_depth > 0)
+            return QApplication::notify(receiver, event);
+        ++m_depth;
+        QElapsedTimer timer;
+        timer.start();
+        const bool handled = QApplication::notify(receiver, event);
+        m_longest = std::max(m_longest, static_cast<double>(timer.nsecsElapsed()) / 1e9);
+        --m_depth;
+        return handled;
+    }
+    /// The longest stall since the last call.
+    double takeLongest() { return std::exchange(m_longest, 0.0); }
+
+private:
+    int m_depth = 0;
+    double m_longest = 0;
+};
+
+/// Runs the event loop until the widget has been painted.
+class PaintWait : public QObject
+{
+public:
+    explicit PaintWait(QWidget &widget) { widget.installEventFilter(this); }
+
+    void wait()
+    {
+        m_painted = false;
+        while (!m_painted)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        m_painted = m_painted || event->type() == QEvent::Paint;
+        return false;
+    }
+
+private:
+    bool m_painted = false;
+};
+
+/// Handles events for that long, in milliseconds.
+void handleEvents(int duration)
+{
+    QEventLoop loop;
+    QTimer::singleShot(duration, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+int measureRun(TimingApplication &application, const QString &project)
+{
+    Program program(Language::English, [] {});
+    program.window->Form_Load(project);
+    program.window->show();
+    constexpr int Settling = 1000;
+    handleEvents(Settling);
+
+    application.takeLongest();
+    const double processorBefore = processorTime();
+    QElapsedTimer timer;
+    bool failed = false;
+    QEventLoop loop;
+    QObject::connect(&program.workspace.engine, &SendingEngine::runEnded, &loop, &QEventLoop::quit);
+    QObject::connect(&program.workspace.engine, &SendingEngine::runFailed, &loop, [&] {
+        failed = true;
+        loop.quit();
+    });
+    timer.start();
+    QTimer::singleShot(0, program.window->findChild<QPushButton *>(QStringLiteral("cmdAvvio")),
+                       &QPushButton::click);
+    loop.exec();
+    const double seconds = static_cast<double>(timer.nsecsElapsed()) / 1e9;
+    const double processor = processorTime() - processorBefore;
+    std::printf("{\"processor\": %.4f, \"seconds\": %.4f, \"longest\": %.4f, \"failed\": %s}\n",
+                processor, seconds, application.takeLongest(), failed ? "true" : "false");
+    return 0;
+}
+
+int measureList(TimingApplication &application, const QElapsedTimer &sinceStart,
+                const QString &project)
+{
+    Program program(Language::English, [] {});
+    program.window->Form_Load(project);
+    program.window->show();
+    auto &view = *program.window->findChild<RecipientView *>(QStringLiteral("lstDestinatari"));
+    PaintWait paint(*view.viewport());
+    paint.wait();
+    std::printf("{\"open\": %.4f", static_cast<double>(sinceStart.nsecsElapsed()) / 1e9);
+
+    constexpr int Settling = 500;
+    const auto stallOf = [&](const char *action, auto work) {
+        handleEvents(Settling);
+        application.takeLongest();
+        QTimer::singleShot(0, &view, work);
+        handleEvents(Settling);
+        std::printf(", \"%s\": %.4f", action, application.takeLongest());
+    };
+    const auto press = [&](const char *name) {
+        return [&program, name] {
+            program.window->findChild<QPushButton *>(QLatin1String(name))->click();
+        };
+    };
+    const auto sortBy = [&](int section) {
+        return [&view, section] { Q_EMIT view.header()->sectionClicked(section); };
+    };
+    stallOf("sort by name", sortBy(1));
+    stallOf("sort by address", sortBy(2));
+    stallOf("sort by state", sortBy(3));
+    stallOf("sort by name, half of them selected", [&] {
+        view.selectByState(RowState::Sent);
+        Q_EMIT view.header()->sectionClicked(1);
+    });
+    stallOf("select by state", [&] { view.selectByState(RowState::Waiting); });
+    stallOf("select by another state", [&] { view.selectByState(RowState::Sent); });
+    stallOf("uncheck", press("cmdUncheckAll"));
+    stallOf("check", press("cmdCheckAll"));
+    stallOf("remove", press("cmdRemove"));
+    stallOf("select all", [&] { view.selectAll(); });
+    stallOf("remove all", press("cmdRemove"));
+    std::printf("}\n");
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    TimingApplication application(argc, argv);
+    if (argc == 3 && std::strcmp(argv[1], "run") == 0)
+        return measureRun(application, QString::fromLocal8Bit(argv[2]));
+    if (argc == 3 && std::strcmp(argv[1], "list") == 0)
+        return measureList(application, sinceStart, QString::fromLocal8Bit(argv[2]));
+    std::fputs("bench_window run|list PROJECT\n", stderr);
+    return 2;
+}
