@@ -1,0 +1,36 @@
+#pragma once
+
+#include "WindowTest.h"
+
+class TestRecipientList : public WindowTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void columnsShareTheRoomAsDesigned();
+    void stateIsCentred();
+    void pictureFollowsTheImageIndex();
+    void tooltipOfAStateIsTheServersReply();
+    void clickOnAHeadingSortsAndShowsItsArrow();
+    void clickOnTheNumberHeadingNeverChangesTheOrder();
+    void sortingKeepsTheSelection();
+    void clickOnACheckBoxFollowsTheImageRule();
+    void spaceChecksWhenSomeSelectedRowIsUnchecked();
+    void spaceUnchecksWhenAllSelectedRowsAreChecked();
+    void deleteRemovesTheSelectedRows();
+    void insertAddsARecipient();
+    void keysDoNothingWithoutASelection();
+    void menuSelectsByState_data();
+    void menuSelectsByState();
+    void statesOfTheOtherLanguageAreSelectedToo();
+    void menuChecksUnchecksAndRemoves();
+    void rowsStillToDoAreCheckedFromTheMenu();
+    void selectedRowsAreCopiedAsText();
+    void scatteredRowsAreReadInTheirOrder();
+    void changesArePublishedTogether();
+    void changesOfAnotherMomentArePublishedAgain();
+    void rowBeingSentIsCurrentAndInView();
+    void duringARunTheListCanOnlyBeLookedAt();
+    void attachmentIsSelectedWhenItIsAdded();
+    void deleteRemovesTheSelectedAttachment();
+};
