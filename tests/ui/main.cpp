@@ -1,10 +1,11 @@
 #include "TestDigitsEdit.h"
 #include "TestMainWindow.h"
+#include "TestWindowPrompts.h"
 #include "support/RunTests.h"
 
 #include <QApplication>
 
 int main(int argc, char **argv)
 {
-    return runTestsIn<QApplication, TestDigitsEdit, TestMainWindow>(argc, argv);
+    return runTestsIn<QApplication, TestDigitsEdit, TestMainWindow, TestWindowPrompts>(argc, argv);
 }
