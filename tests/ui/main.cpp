@@ -1,11 +1,13 @@
 #include "TestDigitsEdit.h"
 #include "TestMainWindow.h"
 #include "TestRecipientList.h"
+#include "TestWindowPrompts.h"
 #include "support/RunTests.h"
 
 #include <QApplication>
 
 int main(int argc, char **argv)
 {
-    return runTestsIn<QApplication, TestDigitsEdit, TestMainWindow, TestRecipientList>(argc, argv);
+    return runTestsIn<QApplication, TestDigitsEdit, TestWindowPrompts, TestRecipientList,
+                      TestMainWindow>(argc, argv);
 }

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "prompts/Prompts.h"
+
+#include <QDialog>
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+#include <deque>
+#include <vector>
+
+/// The boxes of the program over a window. Their object names are "notice", "question", "inputBox"
+/// and "fileDialog".
+class WindowPrompts : public QObject, public Prompts
+{
+    Q_OBJECT
+
+public:
+    /// The desktop's file dialogs, where it has some, or Qt's.
+    enum class Dialogs { Native, QtOwn };
+
+    explicit WindowPrompts(QObject *parent = nullptr);
+    ~WindowPrompts() override;
+
+    /// The window that boxes open over. They wait until there is one and the event loop runs.
+    void setWindow(QWidget *window);
+    void setDialogs(Dialogs dialogs) { m_dialogs = dialogs; }
+
+    void notice(const Notice &notice) override;
+    void ask(const Question &question, Stands stands, std::function<void(Answer)> then) override;
+    void askText(const InputBox &box, Stands stands, std::function<void(QString)> then) override;
+    void askFile(const FileDialog &dialog, Stands stands,
+                 std::function<void(QString)> then) override;
+
+public Q_SLOTS:
+    /// Closes the boxes whose answer does not count any more. To be called through a queued
+    /// connection, whenever something that conditions look at has changed.
+    void closeStale();
+
+private:
+    /// A box that has not been opened yet.
+    struct Waiting
+    {
+        std::function<QDialog *()> make;
+        Stands stands;
+        bool isNotice = false;
+    };
+    struct Open
+    {
+        QPointer<QDialog> box;
+        Stands stands;
+        bool isNotice = false;
+    };
+
+    void enqueue(Waiting waiting);
+    void openWaiting();
+    void open(const Waiting &waiting);
+    void forget(const QDialog *box);
+    void discard(QDialog *box);
+    void activateLast();
+    void post(const Stands &stands, std::function<void()> then);
+    [[nodiscard]] bool noticeIsOpen() const;
+    [[nodiscard]] QString folderFor(const FileDialog &dialog) const;
+
+    QPointer<QWidget> m_window;
+    Dialogs m_dialogs = Dialogs::Native;
+    QString m_lastFolder;
+    std::deque<Waiting> m_waiting;
+    std::vector<Open> m_open;
+};
