@@ -9,8 +9,10 @@
 #include "ui_frmMain.h"
 
 #include <QCloseEvent>
+#include <QShortcut>
 
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -54,6 +56,7 @@ frmMain::frmMain(const WindowParts &parts)
     applyRunState();
 
     connect(&m_form, &Form::runStateChanged, this, &frmMain::applyRunState);
+    connect(&m_form, &Form::situationChanged, this, &frmMain::showProgress);
     connect(&m_form, &Form::captionChanged, this, [this] { setWindowTitle(m_form.caption()); });
     m_hasPlace = m_place.restore(*this, *m_ui->splitter, *m_ui->lstDestinatari->header());
     m_lifecycle.beforeUnload = [this] {
@@ -215,8 +218,9 @@ void frmMain::bindShortcuts()
         Key{m_ui->cmdSaveAs, m_ui->mnuSalvaConNome, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)},
     };
     for (const Key &key : keys) {
-        // The button's, which works also where the menu is disabled; the menu only shows it.
-        key.button->setShortcut(key.keys);
+        // The button is pressed, also where the menu is disabled; the menu only shows the keys.
+        auto *const shortcut = new QShortcut(key.keys, this);
+        connect(shortcut, &QShortcut::activated, key.button, &QPushButton::click);
         key.button->setToolTip(key.keys.toString(QKeySequence::NativeText));
         key.entry->setShortcut(key.keys);
         key.entry->setShortcutContext(Qt::WidgetShortcut);
@@ -263,15 +267,21 @@ void frmMain::applyRunState()
     showProgress();
 }
 
+// An idle window keeps what the last run of its project reached.
 void frmMain::showProgress()
 {
-    // An idle window keeps what the last run reached.
-    if (m_form.runState() == RunState::Idle)
+    const bool isRunning = m_form.runState() != RunState::Idle;
+    const bool wasRunning = std::exchange(m_showsRun, isRunning);
+    const quint32 project = m_form.situation().project;
+    const bool isAnother = std::exchange(m_progressProject, project) != project;
+    if (!isRunning && !wasRunning && !isAnother)
         return;
-    const Progress progress = m_workspace.engine.progress();
+    const Progress progress = isRunning || wasRunning ? m_workspace.engine.progress() : Progress();
     m_ui->progress->setMaximum(qMax(1, progress.total));
     m_ui->progress->setValue(progress.done);
-    m_ui->progress->setFormat(QStringLiteral("%1 / %2").arg(progress.done).arg(progress.total));
+    m_ui->progress->setFormat(
+        progress.total == 0 ? QString()
+                            : QStringLiteral("%1 / %2").arg(progress.done).arg(progress.total));
 }
 
 void frmMain::openHelpPage(const QString &page)

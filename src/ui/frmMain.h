@@ -48,9 +48,6 @@ public:
     /// The desktop's session ends, or the program was asked to end.
     void endSession();
 
-    /// What a paint of a whole list and the rate of publishing are measured by.
-    [[nodiscard]] RecipientModel &recipientModel() const { return *m_recipients; }
-
 protected:
     void closeEvent(QCloseEvent *event) override;
     void showEvent(QShowEvent *event) override;
@@ -83,6 +80,8 @@ private:
     RecipientModel *m_recipients;
     FormBinding *m_binding = nullptr;
     bool m_hasPlace = false;
+    quint32 m_progressProject = 0; ///< the project whose progress is shown
+    bool m_showsRun = false;
 };
 
 /// The same window with Italian texts.

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QObject>
+#include "WindowTest.h"
 
-class TestDigitsEdit : public QObject
+class TestDigitsEdit : public WindowTest
 {
     Q_OBJECT
 

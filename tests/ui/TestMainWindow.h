@@ -7,6 +7,22 @@ class TestMainWindow : public WindowTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyControlHasItsWidget();
-    void picture();
+    void typedTextsReachTheForm();
+    void fullPathIsTheTooltip();
+    void checksReachTheForm();
+    void cursorStaysWhereTheUserTypes();
+    void shortcutsPressTheirButtons_data();
+    void shortcutsPressTheirButtons();
+    void shortcutWorksWhereTheMenuIsDisabled();
+    void shortcutOfADisabledButtonDoesNothing();
+    void menusShowTheShortcuts();
+    void helpPagesAreTheSameInBothLanguages_data();
+    void helpPagesAreTheSameInBothLanguages();
+    void exitEndsAtOnce();
+    void closingAsksAndStays();
+    void closingEndsTheProcessAndKeepsTheWindowsSize();
+    void runIsCountedOnTheBar();
+    void barKeepsWhatTheLastRunReached();
+    void pauseButtonShowsWhatItWouldDo_data();
+    void pauseButtonShowsWhatItWouldDo();
 };

@@ -39,7 +39,8 @@ public:
     {
         window->Form_Load(projectPath);
         window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window.get()));
     }
     template <typename Widget>
     [[nodiscard]] Widget &get(const char *name)

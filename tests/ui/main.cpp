@@ -1,4 +1,6 @@
+#include "TestDialogs.h"
 #include "TestDigitsEdit.h"
+#include "TestDrops.h"
 #include "TestMainWindow.h"
 #include "TestRecipientList.h"
 #include "TestWindowPrompts.h"
@@ -9,5 +11,5 @@
 int main(int argc, char **argv)
 {
     return runTestsIn<QApplication, TestDigitsEdit, TestWindowPrompts, TestRecipientList,
-                      TestMainWindow>(argc, argv);
+                      TestMainWindow, TestDialogs, TestDrops>(argc, argv);
 }
