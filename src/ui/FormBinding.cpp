@@ -7,8 +7,8 @@
 #include <QMenu>
 #include <QPushButton>
 
-FormBinding::FormBinding(Form &form, QWidget &window)
-    : QObject(&window), m_form(form), m_objects(static_cast<std::size_t>(Controls::count()))
+FormBinding::FormBinding(Form &form, const QWidget &window)
+    : m_form(form), m_objects(static_cast<std::size_t>(Controls::count()))
 {
     const auto names = QMetaEnum::fromType<Control>();
     for (int place = 0; place < names.keyCount(); ++place) {

@@ -4,8 +4,8 @@
 
 #include <QWidget>
 
-#include <array>
 #include <set>
+#include <vector>
 
 /// Makes the widgets and menu entries of a window the views of the form's controls: each is found
 /// by the control's name. Texts, tags and checks go both ways; whether a control can be used
@@ -15,7 +15,7 @@ class FormBinding : public QObject
     Q_OBJECT
 
 public:
-    FormBinding(Form &form, QWidget &window);
+    FormBinding(Form &form, const QWidget &window);
 
     /// The widget, action or menu of that control.
     [[nodiscard]] QObject *objectOf(Control control) const

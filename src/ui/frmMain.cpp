@@ -19,10 +19,17 @@ namespace {
 // The size of the pictures of the three buttons of a run.
 constexpr int RunPictureSize = 24;
 
+std::unique_ptr<Ui::frmMain> madeFor(frmMain &window)
+{
+    auto ui = std::make_unique<Ui::frmMain>();
+    ui->setupUi(&window);
+    return ui;
+}
+
 } // namespace
 
 frmMain::frmMain(const WindowParts &parts)
-    : m_ui(std::make_unique<Ui::frmMain>()),
+    : m_ui(madeFor(*this)),
       m_workspace(parts.workspace),
       m_form(parts.workspace.form),
       m_prompts(parts.prompts),
@@ -34,9 +41,9 @@ frmMain::frmMain(const WindowParts &parts)
       m_lifecycle(m_form, m_workspace.projectCommands, m_workspace.projectFile,
                   m_workspace.windowSettings, m_workspace.engine, parts.prompts, parts.endProcess),
       m_place(parts.placeFile),
-      m_recipients(new RecipientModel(m_workspace.recipients, this))
+      m_recipients(new RecipientModel(m_workspace.recipients, this)),
+      m_binding(m_form, *this)
 {
-    m_ui->setupUi(this);
     setWindowIcon(Pictures::icon("application"));
     m_ui->mnuFile->insertSeparator(m_ui->mnuEditor)->setObjectName(QStringLiteral("mnuSep1"));
     m_ui->mnuFile->insertSeparator(m_ui->mnuEsci)->setObjectName(QStringLiteral("mnuSep4"));
@@ -47,18 +54,16 @@ frmMain::frmMain(const WindowParts &parts)
     m_ui->splitter->setStretchFactor(0, 0);
     m_ui->splitter->setStretchFactor(1, 1);
 
-    m_binding = new FormBinding(m_form, *this);
     bindCommands();
     bindLists();
     bindShortcuts();
     bindDrops();
-    m_binding->applyRunState();
+    m_binding.applyRunState();
     applyRunState();
 
     connect(&m_form, &Form::runStateChanged, this, &frmMain::applyRunState);
     connect(&m_form, &Form::situationChanged, this, &frmMain::showProgress);
     connect(&m_form, &Form::captionChanged, this, [this] { setWindowTitle(m_form.caption()); });
-    m_hasPlace = m_place.restore(*this, *m_ui->splitter, *m_ui->lstDestinatari->header());
     m_lifecycle.beforeUnload = [this] {
         m_place.save(*this, *m_ui->splitter, *m_ui->lstDestinatari->header());
     };
@@ -68,6 +73,7 @@ frmMain::~frmMain() = default;
 
 void frmMain::Form_Load(const QString &projectPath)
 {
+    m_hasPlace = m_place.restore(*this, *m_ui->splitter, *m_ui->lstDestinatari->header());
     m_lifecycle.Form_Load(projectPath);
 }
 
@@ -122,8 +128,8 @@ void frmMain::showPictures()
 
 void frmMain::command(Control control, std::function<void()> procedure)
 {
-    m_binding->markAsCommand(control);
-    QObject *const object = m_binding->objectOf(control);
+    m_binding.markAsCommand(control);
+    QObject *const object = m_binding.objectOf(control);
     if (auto *const button = qobject_cast<QPushButton *>(object))
         connect(button, &QPushButton::clicked, this, std::move(procedure));
     else if (auto *const action = qobject_cast<QAction *>(object))

@@ -78,7 +78,7 @@ private:
     WindowLifecycle m_lifecycle;
     WindowPlace m_place;
     RecipientModel *m_recipients;
-    FormBinding *m_binding = nullptr;
+    FormBinding m_binding;
     bool m_hasPlace = false;
     quint32 m_progressProject = 0; ///< the project whose progress is shown
     bool m_showsRun = false;

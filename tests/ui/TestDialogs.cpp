@@ -212,6 +212,7 @@ void TestDialogs::sizeAndColumnsAreRemembered()
                    {},
                    [] {},
                    rig.core->folder.filePath(u"window.ini"_s)});
+    again.Form_Load({});
     again.show();
     QVERIFY(QTest::qWaitForWindowExposed(&again));
     QCOMPARE(again.size(), QSize(1230, 700));
@@ -224,6 +225,7 @@ void TestDialogs::damagedMemoryOfTheWindowIsIgnored()
     const QString file = rig.core->file(
         u"window.ini"_s, "[General]\ngeometry=@ByteArray(rubbish)\ncolumns=-5, 99999999\n");
     frmMain again({rig.core->w, rig.core->prompts, rig.shell, {}, {}, [] {}, file});
+    again.Form_Load({});
     again.show();
     QVERIFY(QTest::qWaitForWindowExposed(&again));
     const auto &view = *again.findChild<RecipientView *>();
