@@ -6,9 +6,11 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QResizeEvent>
 #include <QScrollBar>
 
 #include <algorithm>
+#include <numeric>
 #include <unordered_set>
 
 RecipientView::RecipientView(QWidget *parent) : QTreeView(parent)
@@ -48,6 +50,38 @@ void RecipientView::setReadOnly(bool readOnly)
     m_readOnly = readOnly;
     m_model->setEditable(!readOnly);
     header()->setSectionsClickable(!readOnly);
+}
+
+void RecipientView::useDesignWidths()
+{
+    // In twentieths of a point; they are seldom to be had in full, and shrink in proportion.
+    fillWith({1764, 5821, 6350, 1940});
+}
+
+// The columns share the view as those numbers are to each other.
+void RecipientView::fillWith(const std::vector<int> &shares)
+{
+    int sharesLeft = std::accumulate(shares.begin(), shares.end(), 0);
+    int widthLeft = viewport()->width();
+    for (int column = 0; column < header()->count(); ++column) {
+        const int share = shares[static_cast<std::size_t>(column)];
+        const int width = widthLeft * share / sharesLeft;
+        setColumnWidth(column, width);
+        widthLeft -= width;
+        sharesLeft -= share;
+    }
+}
+
+void RecipientView::resizeEvent(QResizeEvent *event)
+{
+    QTreeView::resizeEvent(event);
+    // Columns that filled the view go on filling it.
+    if (header()->count() == 0 || header()->length() != event->oldSize().width())
+        return;
+    std::vector<int> widths;
+    for (int column = 0; column < header()->count(); ++column)
+        widths.push_back(columnWidth(column));
+    fillWith(widths);
 }
 
 std::vector<int> RecipientView::selectedPositions() const

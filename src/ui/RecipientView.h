@@ -20,6 +20,9 @@ public:
     /// While a run is shown the list can be looked at and nothing else.
     void setReadOnly(bool readOnly);
 
+    /// Gives the columns the widths they were designed with, as far as there is room.
+    void useDesignWidths();
+
     /// The positions of the selected rows, 1-based and ascending.
     [[nodiscard]] std::vector<int> selectedPositions() const;
     /// Selects these rows (positions 1-based, ascending) and no others.
@@ -42,8 +45,10 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void fillWith(const std::vector<int> &shares);
     void rememberRows();
     void restoreRows();
     void follow();

@@ -93,7 +93,7 @@ void frmMain::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
     if (!m_hasPlace && !event->spontaneous())
-        fitColumns();
+        m_ui->lstDestinatari->useDesignWidths();
 }
 
 void frmMain::showPictures()
@@ -308,19 +308,6 @@ void frmMain::mnuAbout_Click()
     auto *const about = new frmAbout(m_shell, this);
     about->setAttribute(Qt::WA_DeleteOnClose);
     about->open();
-}
-
-// The columns share the view as their design widths (in twentieths of a point: 1764, 5821, 6350 and
-// 1940) are to each other.
-void frmMain::fitColumns()
-{
-    constexpr std::array Widths{1764, 5821, 6350, 1940};
-    constexpr int Sum = Widths[0] + Widths[1] + Widths[2] + Widths[3];
-    const int room = m_ui->lstDestinatari->viewport()->width();
-    for (int column = 0; column < static_cast<int>(Widths.size()); ++column) {
-        const int width = Widths[static_cast<std::size_t>(column)];
-        m_ui->lstDestinatari->setColumnWidth(column, room * width / Sum);
-    }
 }
 
 frmMainIta::frmMainIta(const WindowParts &parts) : frmMain(parts)

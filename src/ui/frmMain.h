@@ -61,7 +61,6 @@ private:
     void command(Control control, std::function<void()> procedure);
     void applyRunState();
     void showProgress();
-    void fitColumns();
 
     void mnuEditor_Click();
     void mnuAbout_Click();

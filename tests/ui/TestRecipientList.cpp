@@ -111,6 +111,17 @@ void TestRecipientList::columnsShareTheRoomAsDesigned()
     }
 }
 
+void TestRecipientList::columnsGoOnFillingAListThatGrows()
+{
+    ListRig rig({u"A"_s});
+    const RecipientView &view = rig.view();
+    QCOMPARE(view.header()->length(), view.viewport()->width());
+    const int before = view.columnWidth(1);
+    rig.window->resize(rig.window->width() + 200, rig.window->height());
+    QTRY_VERIFY(view.columnWidth(1) > before);
+    QCOMPARE(view.header()->length(), view.viewport()->width());
+}
+
 void TestRecipientList::stateIsCentred()
 {
     ListRig rig({u"A"_s});

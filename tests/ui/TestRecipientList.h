@@ -8,6 +8,7 @@ class TestRecipientList : public WindowTest
 
 private Q_SLOTS:
     void columnsShareTheRoomAsDesigned();
+    void columnsGoOnFillingAListThatGrows();
     void stateIsCentred();
     void pictureFollowsTheImageIndex();
     void tooltipOfAStateIsTheServersReply();
