@@ -1,3 +1,4 @@
+#include "TestControls.h"
 #include "TestDialogs.h"
 #include "TestDigitsEdit.h"
 #include "TestDrops.h"
@@ -10,6 +11,6 @@
 
 int main(int argc, char **argv)
 {
-    return runTestsIn<QApplication, TestDigitsEdit, TestWindowPrompts, TestRecipientList,
-                      TestMainWindow, TestDialogs, TestDrops>(argc, argv);
+    return runTestsIn<QApplication, TestControls, TestDigitsEdit, TestWindowPrompts,
+                      TestRecipientList, TestMainWindow, TestDialogs, TestDrops>(argc, argv);
 }
