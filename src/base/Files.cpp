@@ -17,6 +17,20 @@ QString translated(const char *text)
     return QCoreApplication::translate("Files", text);
 }
 
+// What a disk has room for only in part is refused without a reason; offered the rest, the system
+// says why.
+bool writeWhole(QSaveFile &file, const QByteArray &content)
+{
+    qint64 written = 0;
+    while (written < content.size()) {
+        const qint64 part = file.write(content.constData() + written, content.size() - written);
+        if (part <= 0)
+            return false;
+        written += part;
+    }
+    return file.flush() || file.flush();
+}
+
 } // namespace
 
 QString systemPath(const QString &path)
@@ -58,8 +72,7 @@ tl::expected<void, FileError> replaceWholeFile(const QString &path, const QByteA
 {
     QSaveFile file(systemPath(path));
     // Commit alone would take a file whose last buffer found no room for a whole one.
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() ||
-        !file.flush() || !file.commit())
+    if (!file.open(QIODevice::WriteOnly) || !writeWhole(file, content) || !file.commit())
         return failed(path, file.errorString());
     return {};
 }

@@ -156,7 +156,7 @@ void TestFiles::fullDiskKeepsTheOldFile()
     }();
     QVERIFY(!written);
     QCOMPARE(written.error().path, path(u"file"_s));
-    QVERIFY(!written.error().reason.isEmpty());
+    QCOMPARE(written.error().reason, u"File too large"_s);
     QCOMPARE(readFile(path(u"file"_s)), "old"_ba);
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"file"_s});
 }
