@@ -1,3 +1,4 @@
+#include "TestBoxes.h"
 #include "TestControls.h"
 #include "TestDialogs.h"
 #include "TestDigitsEdit.h"
@@ -11,6 +12,6 @@
 
 int main(int argc, char **argv)
 {
-    return runTestsIn<QApplication, TestControls, TestDigitsEdit, TestWindowPrompts,
+    return runTestsIn<QApplication, TestBoxes, TestControls, TestDigitsEdit, TestWindowPrompts,
                       TestRecipientList, TestMainWindow, TestDialogs, TestDrops>(argc, argv);
 }
