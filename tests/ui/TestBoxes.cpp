@@ -664,19 +664,35 @@ void TestBoxes::startPressedTwiceStartsOneRun()
     QCOMPARE(rig.core->logged().count(u"User started sending messages"_s), 1);
 }
 
+void TestBoxes::aMessageFileThatVanishesEndsTheStart_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<Control>("box");
+    QTest::newRow("text") << QByteArray("cmdEmail") << Control::txtEmail;
+    QTest::newRow("HTML") << QByteArray("cmdHTML") << Control::txtHTML;
+}
+
 void TestBoxes::aMessageFileThatVanishesEndsTheStart()
 {
+    QFETCH(const QByteArray, button);
+    QFETCH(const Control, box);
+    const QString unreadable = u"Unable to load the specified message!"_s;
     BoxRig rig;
     rig.show();
     rig.core->fillForm(2);
-    const QString path = rig.core->file(u"letter.txt"_s, "Dear *NOME*,\r\n");
-    rig.click("cmdEmail");
+    const QString path = rig.core->file(u"letter"_s, "Dear *NOME*,\r\n");
+    rig.click(button.constData());
     rig.choose(path);
-    QTRY_COMPARE(rig.core->w.form.tag(Control::txtEmail), path);
+    QTRY_COMPARE(rig.core->w.form.tag(box), path);
     QVERIFY(QFile::remove(path));
     rig.click("cmdAvvio");
+    if (box == Control::txtHTML) {
+        // It is looked through for pictures before anything is asked.
+        QTRY_COMPARE(rig.noticeText(), unreadable);
+        rig.dismissNotice();
+    }
     rig.answer(QMessageBox::No);
-    QTRY_COMPARE(rig.noticeText(), u"Unable to load the specified message!"_s);
+    QTRY_COMPARE(rig.noticeText(), unreadable);
     QCOMPARE(rig.notice()->informativeText(), path);
     QCOMPARE(rig.core->w.form.runState(), RunState::Idle);
     QVERIFY(rig.get<QPushButton>("cmdAvvio").isEnabled());

@@ -27,6 +27,7 @@ private Q_SLOTS:
     void aFailedSaveLosesNothingAndTheWindowStays();
     void startPressedTwiceStartsOneRun_data();
     void startPressedTwiceStartsOneRun();
+    void aMessageFileThatVanishesEndsTheStart_data();
     void aMessageFileThatVanishesEndsTheStart();
     void aBadProjectOnTheCommandLineLeavesAnEmptyOne_data();
     void aBadProjectOnTheCommandLineLeavesAnEmptyOne();

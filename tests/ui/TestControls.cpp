@@ -667,35 +667,6 @@ void TestControls::whatIsEnabledFollowsTheRun()
     check();
 }
 
-void TestControls::thePauseButtonSaysWhatItWouldDo_data()
-{
-    QTest::addColumn<Language>("language");
-    QTest::addColumn<QString>("pause");
-    QTest::addColumn<QString>("resume");
-    QTest::newRow("English") << Language::English << u"Pause"_s << u"Resume"_s;
-    QTest::newRow("Italian") << Language::Italian << u"Pausa"_s << u"Riprendi"_s;
-}
-
-void TestControls::thePauseButtonSaysWhatItWouldDo()
-{
-    QFETCH(const Language, language);
-    QFETCH(const QString, pause);
-    QFETCH(const QString, resume);
-    WindowRig rig(language);
-    rig.show();
-    auto &button = rig.get<QPushButton>("cmdPausa");
-    bringTo(RunState::Sending, rig);
-    QCOMPARE(button.text(), pause);
-    QTest::mouseClick(&button, Qt::LeftButton);
-    QCOMPARE(button.text(), resume);
-    rig.core->finishMessage();
-    QTest::mouseClick(&button, Qt::LeftButton);
-    QCOMPARE(button.text(), pause);
-    QTest::mouseClick(&button, Qt::LeftButton);
-    rig.core->w.engine.StopSending();
-    QCOMPARE(button.text(), pause);
-}
-
 void TestControls::accessKeysOpenNoMenuInARun()
 {
     WindowRig rig;

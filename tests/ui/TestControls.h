@@ -34,8 +34,6 @@ private Q_SLOTS:
     // What can be used when.
     void whatIsEnabledFollowsTheRun_data();
     void whatIsEnabledFollowsTheRun();
-    void thePauseButtonSaysWhatItWouldDo_data();
-    void thePauseButtonSaysWhatItWouldDo();
     void accessKeysOpenNoMenuInARun();
     void aRunLeavesTheListsToBeLookedAt_data();
     void aRunLeavesTheListsToBeLookedAt();

@@ -1,5 +1,6 @@
 #include "TestDialogs.h"
 
+#include "Languages.h"
 #include "WindowRig.h"
 #include "ui/RecipientView.h"
 #include "ui/frmAbout.h"
@@ -47,13 +48,6 @@ struct EditorRig : DialogRig<frmEditor>
     WindowSettings &settings;
 };
 
-void bothLanguages()
-{
-    QTest::addColumn<Language>("language");
-    QTest::addRow("English") << Language::English;
-    QTest::addRow("Italian") << Language::Italian;
-}
-
 } // namespace
 
 void TestDialogs::editorChooserShowsTheEditors()
@@ -66,7 +60,7 @@ void TestDialogs::editorChooserShowsTheEditors()
 
 void TestDialogs::editorCaptions_data()
 {
-    bothLanguages();
+    addLanguages();
 }
 
 void TestDialogs::editorCaptions()
@@ -160,7 +154,7 @@ void TestDialogs::aboutShowsTheVersion()
 
 void TestDialogs::aboutCaption_data()
 {
-    bothLanguages();
+    addLanguages();
 }
 
 void TestDialogs::aboutCaption()

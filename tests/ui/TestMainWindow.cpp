@@ -1,5 +1,6 @@
 #include "TestMainWindow.h"
 
+#include "Languages.h"
 #include "WindowRig.h"
 
 #include <QAction>
@@ -10,17 +11,6 @@
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-void bothLanguages()
-{
-    QTest::addColumn<Language>("language");
-    QTest::addRow("English") << Language::English;
-    QTest::addRow("Italian") << Language::Italian;
-}
-
-} // namespace
 
 void TestMainWindow::typedTextsReachTheForm()
 {
@@ -126,7 +116,7 @@ void TestMainWindow::menusShowTheShortcuts()
 
 void TestMainWindow::helpPagesAreTheSameInBothLanguages_data()
 {
-    bothLanguages();
+    addLanguages();
 }
 
 void TestMainWindow::helpPagesAreTheSameInBothLanguages()
@@ -208,7 +198,7 @@ void TestMainWindow::barKeepsWhatTheLastRunReached()
 
 void TestMainWindow::pauseButtonShowsWhatItWouldDo_data()
 {
-    bothLanguages();
+    addLanguages();
 }
 
 void TestMainWindow::pauseButtonShowsWhatItWouldDo()
