@@ -123,16 +123,46 @@ class Desktop:
         command = ["xdotool", "mousemove", *place, "click", "1"]
         subprocess.run(command, env=self.environment, check=True)
 
+    def resize(self, window, width, height):
+        """Puts the window that has the keyboard into the corner of the screen and gives it a size."""
+        active, (left, _, top, _) = self._framed(window)
+        command = ["xdotool", "windowmove", active, left, top, "windowsize", active, width, height]
+        subprocess.run(list(map(str, command)), env=self.environment, check=True)
+        size = (round(width / self.scale), round(height / self.scale))
+        until(
+            lambda: f"the size {size} of {window}, which lies at {window.place}",
+            lambda: tuple(window.place[2:]) == size,
+        )
+
     # Its eyes.
 
-    def picture(self, path, place=None):
-        """Writes a picture of the screen, or of a part: left, top, width and height."""
-        crop = []
-        if place:
-            left, top, width, height = place
-            crop = ["-crop", f"{width}x{height}+{left}+{top}", "+repage"]
-        command = ["import", "-silent", "-window", "root", *crop, "-strip", str(path)]
-        subprocess.run(command, env=self.environment, check=True)
+    def frame(self, window):
+        """The place of the window that has the keyboard, with the window manager's frame."""
+        _, (left, right, top, bottom) = self._framed(window)
+        x, y, width, height = (round(number * self.scale) for number in window.place)
+        return x - left, y - top, width + left + right, height + top + bottom
+
+    def _framed(self, window):
+        """The number of the window that has the keyboard, and the widths of its frame."""
+
+        def framed():
+            active = self._output("xdotool", "getactivewindow").decode().strip()
+            told = self._output("xprop", "-id", active, "_NET_WM_NAME", "_NET_FRAME_EXTENTS")
+            title, _, widths = told.decode().partition("\n")
+            if f'= "{window.name}"' not in title or "=" not in widths:
+                return None
+            return active, tuple(map(int, widths.split("=")[1].split(",")))
+
+        return until(f"the frame of {window}", framed)
+
+    def picture(self, path, place):
+        """Writes a picture of a part of the screen: left, top, width and height."""
+        left, top, width, height = place
+        screen = self._output("import", "-silent", "-window", "root", "png:-")
+        crop = ["-crop", f"{width}x{height}+{left}+{top}", "+repage"]
+        # So few colours are enough for windows, and make small files.
+        small = ["-strip", "+dither", "-colors", "256", "-define", "png:compression-level=9"]
+        subprocess.run(["convert", "png:-", *crop, *small, str(path)], input=screen, check=True)
 
 
 class Program:

@@ -69,16 +69,19 @@ class Sorvanta:
         """The list of the recipients."""
         return self.control("tree", "Recipients")
 
-    def wait_for_entry(self, text):
-        """Waits until an open menu shows an entry."""
+    def open_menu(self, heading, entry):
+        """Clicks on a heading of the menu bar; returns an entry, once it is shown."""
+        bar = next(part for part in self.main.parts() if part.role == "menu bar")
+        menu = next(part for part in bar.children() if part.name == heading)
+        self.running.click(menu)
 
         def shown():
-            bar = next(part for part in self.main.parts() if part.role == "menu bar")
-            menus = [menu for heading in bar.children() for menu in heading.children()]
-            entries = [entry for menu in menus for entry in menu.children()]
-            return any(entry.name == text and entry.has(SHOWING) for entry in entries)
+            for part in menu.children()[0].children():
+                if part.name == entry and part.has(SHOWING):
+                    return part
+            return None
 
-        until(f"the entry '{text}'", shown)
+        return until(f"the entry '{entry}'", shown)
 
     def states(self):
         """Names, addresses and states of the rows."""
