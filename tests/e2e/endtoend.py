@@ -31,11 +31,7 @@ class Program:
 
     def __init__(self, folder):
         self.folder = Path(folder)
-        self.path = self.folder / CLI.name
-        try:
-            os.link(CLI, self.path)
-        except OSError:
-            shutil.copy2(CLI, self.path)
+        self.path = copied(CLI, self.folder)
         home = self.folder / "home"
         home.mkdir()
         self.environment = {
@@ -72,6 +68,16 @@ class Program:
         stamp = re.compile(r"^\d\d/\d\d/\d{4} \d\d:\d\d:\d\d  (.*)$")
         lines = self.logs().decode("cp1252").split("\r\n")
         return [found[1] for found in map(stamp.match, lines) if found]
+
+
+def copied(program, folder):
+    """The copy of a program in a folder."""
+    path = Path(folder) / program.name
+    try:
+        os.link(program, path)
+    except OSError:
+        shutil.copy2(program, path)
+    return path
 
 
 class Ended:
