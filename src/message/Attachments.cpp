@@ -18,6 +18,7 @@ void Attachments::add(const QString &path)
 {
     m_paths.append(path);
     Q_EMIT changed();
+    Q_EMIT added();
 }
 
 void Attachments::removeAt(int index)

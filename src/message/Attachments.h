@@ -19,6 +19,8 @@ public:
 
 Q_SIGNALS:
     void changed();
+    /// One was added at the end; comes behind changed().
+    void added();
 
 private:
     QStringList m_paths;

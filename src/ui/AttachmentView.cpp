@@ -17,6 +17,8 @@ void AttachmentView::setAttachments(const Attachments &attachments)
 {
     connect(&attachments, &Attachments::changed, this,
             [this, &attachments] { show(attachments.paths()); });
+    connect(&attachments, &Attachments::added, this,
+            [this] { setCurrentItem(topLevelItem(topLevelItemCount() - 1)); });
     show(attachments.paths());
 }
 
@@ -28,7 +30,6 @@ int AttachmentView::selectedPlace() const
 
 void AttachmentView::show(const QStringList &paths)
 {
-    const bool oneMore = paths.size() == topLevelItemCount() + 1;
     clear();
     for (const QString &path : paths) {
         auto *const item = new QTreeWidgetItem(this);
@@ -36,8 +37,6 @@ void AttachmentView::show(const QStringList &paths)
         item->setToolTip(0, path);
         item->setIcon(0, Pictures::icon("attachment"));
     }
-    if (oneMore)
-        setCurrentItem(topLevelItem(topLevelItemCount() - 1));
 }
 
 void AttachmentView::keyPressEvent(QKeyEvent *event)

@@ -76,12 +76,35 @@ void RecipientView::resizeEvent(QResizeEvent *event)
 {
     QTreeView::resizeEvent(event);
     // Columns that filled the view go on filling it.
-    if (header()->count() == 0 || header()->length() != event->oldSize().width())
-        return;
+    if (header()->count() > 0 && header()->length() == event->oldSize().width())
+        fillWith(columnWidths());
+}
+
+void RecipientView::fillUp()
+{
+    // A scroll bar that is there now and was not there when the widths were set, or the reverse.
+    const int scrollBar = verticalScrollBar()->sizeHint().width();
+    if (qAbs(header()->length() - viewport()->width()) <= scrollBar)
+        fillWith(columnWidths());
+}
+
+std::vector<int> RecipientView::columnWidths() const
+{
     std::vector<int> widths;
     for (int column = 0; column < header()->count(); ++column)
         widths.push_back(columnWidth(column));
-    fillWith(widths);
+    return widths;
+}
+
+void RecipientView::focusInEvent(QFocusEvent *event)
+{
+    QTreeView::focusInEvent(event);
+    // Who comes by keyboard has a row to work on.
+    const bool byKeyboard =
+        event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    if (byKeyboard && !selectionModel()->hasSelection() && currentIndex().isValid())
+        selectionModel()->select(currentIndex(),
+                                 QItemSelectionModel::Select | QItemSelectionModel::Rows);
 }
 
 std::vector<int> RecipientView::selectedPositions() const

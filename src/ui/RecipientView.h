@@ -22,6 +22,8 @@ public:
 
     /// Gives the columns the widths they were designed with, as far as there is room.
     void useDesignWidths();
+    /// Lets columns that nearly fill the view fill it.
+    void fillUp();
 
     /// The positions of the selected rows, 1-based and ascending.
     [[nodiscard]] std::vector<int> selectedPositions() const;
@@ -46,9 +48,11 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
 
 private:
     void fillWith(const std::vector<int> &shares);
+    [[nodiscard]] std::vector<int> columnWidths() const;
     void rememberRows();
     void restoreRows();
     void follow();

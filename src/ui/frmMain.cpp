@@ -92,7 +92,11 @@ void frmMain::closeEvent(QCloseEvent *event)
 void frmMain::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
-    if (!m_hasPlace && !event->spontaneous())
+    if (event->spontaneous())
+        return;
+    if (m_hasPlace)
+        m_ui->lstDestinatari->fillUp();
+    else
         m_ui->lstDestinatari->useDesignWidths();
 }
 

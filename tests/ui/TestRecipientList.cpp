@@ -244,6 +244,17 @@ void TestRecipientList::insertAddsARecipient()
     QCOMPARE(rig.view().header()->sortIndicatorSection(), 1);
 }
 
+void TestRecipientList::listReachedByTabHasARowToWorkOn()
+{
+    ListRig rig({u"A"_s, u"B"_s});
+    rig.get<QPushButton>("cmdAdd").setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    QCOMPARE(QApplication::focusWidget(), &rig.view());
+    QCOMPARE(rig.view().selectedPositions(), std::vector<int>({1}));
+    QTest::keyClick(&rig.view(), Qt::Key_Space);
+    QCOMPARE(rig.checks(), QList<bool>({false, true}));
+}
+
 void TestRecipientList::keysDoNothingWithoutASelection()
 {
     ListRig rig({u"A"_s, u"B"_s});
@@ -418,6 +429,15 @@ void TestRecipientList::attachmentIsSelectedWhenItIsAdded()
     QCOMPARE(view.topLevelItemCount(), 2);
     QCOMPARE(view.selectedPlace(), 1);
     QCOMPARE(view.topLevelItem(1)->toolTip(0), u"/b.pdf"_s);
+}
+
+void TestRecipientList::attachmentsOfALoadedProjectAreNotSelected()
+{
+    WindowRig rig;
+    rig.show();
+    rig.core->w.attachments.replaceAll({u"/a.pdf"_s});
+    QCOMPARE(rig.get<AttachmentView>("lstAllegati").topLevelItemCount(), 1);
+    QCOMPARE(rig.get<AttachmentView>("lstAllegati").selectedPlace(), -1);
 }
 
 void TestRecipientList::deleteRemovesTheSelectedAttachment()

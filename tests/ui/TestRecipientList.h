@@ -20,6 +20,7 @@ private Q_SLOTS:
     void spaceUnchecksWhenAllSelectedRowsAreChecked();
     void deleteRemovesTheSelectedRows();
     void insertAddsARecipient();
+    void listReachedByTabHasARowToWorkOn();
     void keysDoNothingWithoutASelection();
     void menuSelectsByState_data();
     void menuSelectsByState();
@@ -33,5 +34,6 @@ private Q_SLOTS:
     void rowBeingSentIsCurrentAndInView();
     void duringARunTheListCanOnlyBeLookedAt();
     void attachmentIsSelectedWhenItIsAdded();
+    void attachmentsOfALoadedProjectAreNotSelected();
     void deleteRemovesTheSelectedAttachment();
 };
