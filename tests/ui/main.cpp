@@ -3,6 +3,7 @@
 #include "TestDialogs.h"
 #include "TestDigitsEdit.h"
 #include "TestDrops.h"
+#include "TestHtmlView.h"
 #include "TestMainWindow.h"
 #include "TestRecipientList.h"
 #include "TestWindowPrompts.h"
@@ -13,5 +14,6 @@
 int main(int argc, char **argv)
 {
     return runTestsIn<QApplication, TestBoxes, TestControls, TestDigitsEdit, TestWindowPrompts,
-                      TestRecipientList, TestMainWindow, TestDialogs, TestDrops>(argc, argv);
+                      TestRecipientList, TestMainWindow, TestDialogs, TestDrops, TestHtmlView>(
+        argc, argv);
 }
