@@ -5,6 +5,7 @@
 #include "TestDrops.h"
 #include "TestHtmlView.h"
 #include "TestMainWindow.h"
+#include "TestPreview.h"
 #include "TestRecipientList.h"
 #include "TestWindowPrompts.h"
 #include "support/RunTests.h"
@@ -14,6 +15,6 @@
 int main(int argc, char **argv)
 {
     return runTestsIn<QApplication, TestBoxes, TestControls, TestDigitsEdit, TestWindowPrompts,
-                      TestRecipientList, TestMainWindow, TestDialogs, TestDrops, TestHtmlView>(
-        argc, argv);
+                      TestRecipientList, TestMainWindow, TestDialogs, TestDrops, TestHtmlView,
+                      TestPreview>(argc, argv);
 }
