@@ -5,6 +5,7 @@
 
 #include "base/Maker.h"
 #include "base/Numbers.h"
+#include "message/PersonalText.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
@@ -108,9 +109,7 @@ std::vector<int> SendingEngine::takeGroup()
 
 QString SendingEngine::PersonalizeText(const QString &text) const
 {
-    QString personal = text;
-    return personal.replace(QLatin1String("*NOME*"),
-                            m_recipients.at(m_session.nextRecipientIndex).name);
+    return withName(text, m_recipients.at(m_session.nextRecipientIndex).name);
 }
 
 void SendingEngine::fillMessage(const std::vector<int> &positions, Addressing addressing)

@@ -3,7 +3,9 @@
 #include "TestDialogs.h"
 #include "TestDigitsEdit.h"
 #include "TestDrops.h"
+#include "TestHtmlView.h"
 #include "TestMainWindow.h"
+#include "TestPreview.h"
 #include "TestRecipientList.h"
 #include "TestWindowPrompts.h"
 #include "support/RunTests.h"
@@ -13,5 +15,6 @@
 int main(int argc, char **argv)
 {
     return runTestsIn<QApplication, TestBoxes, TestControls, TestDigitsEdit, TestWindowPrompts,
-                      TestRecipientList, TestMainWindow, TestDialogs, TestDrops>(argc, argv);
+                      TestRecipientList, TestMainWindow, TestDialogs, TestDrops, TestHtmlView,
+                      TestPreview>(argc, argv);
 }
