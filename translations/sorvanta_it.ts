@@ -65,6 +65,17 @@
     </message>
 </context>
 <context>
+    <name>HtmlView</name>
+    <message>
+        <source>Copy as text</source>
+        <translation>Copia come testo</translation>
+    </message>
+    <message>
+        <source>This text cannot be laid out. It is shown as it is written:</source>
+        <translation>Impossibile impaginare questo testo. Viene mostrato com&apos;è scritto:</translation>
+    </message>
+</context>
+<context>
     <name>Message</name>
     <message>
         <source>Message</source>
@@ -255,26 +266,6 @@
     <message>
         <source>Select</source>
         <translation>Evidenzia</translation>
-    </message>
-    <message>
-        <source>Waiting</source>
-        <translation>Attesa</translation>
-    </message>
-    <message>
-        <source>Sending...</source>
-        <translation>Invio...</translation>
-    </message>
-    <message>
-        <source>Sent</source>
-        <translation>Inviato</translation>
-    </message>
-    <message>
-        <source>Error!</source>
-        <translation>Errore!</translation>
-    </message>
-    <message>
-        <source>Not sent</source>
-        <translation>Non inviato</translation>
     </message>
     <message>
         <source>Select all</source>
@@ -704,6 +695,69 @@
     <message>
         <source>&amp;About...</source>
         <translation>&amp;Informazioni su Sorvanta...</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
+    </message>
+</context>
+<context>
+    <name>frmPreview</name>
+    <message>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
+    </message>
+    <message>
+        <source>Format:</source>
+        <translation>Formato:</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>HTML</source>
+        <translation>HTML</translation>
+    </message>
+    <message>
+        <source>Recipient:</source>
+        <translation>Destinatario:</translation>
+    </message>
+    <message>
+        <source>Recipient</source>
+        <translation>Destinatario</translation>
+    </message>
+    <message>
+        <source>Message as text</source>
+        <translation>Messaggio come testo</translation>
+    </message>
+    <message>
+        <source>Message as HTML</source>
+        <translation>Messaggio come HTML</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>As written</source>
+        <translation>Come è scritto</translation>
+    </message>
+    <message>
+        <source>Format: HTML</source>
+        <translation>Formato: HTML</translation>
+    </message>
+    <message>
+        <source>Format: plain text</source>
+        <translation>Formato: testo</translation>
+    </message>
+    <message>
+        <source>No message has been chosen yet.</source>
+        <translation>Nessun messaggio è stato ancora scelto.</translation>
+    </message>
+    <message>
+        <source>This file cannot be read:</source>
+        <translation>Impossibile leggere questo file:</translation>
     </message>
 </context>
 </TS>

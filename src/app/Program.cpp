@@ -17,6 +17,7 @@ Program::Program(Language language, std::function<void()> endProcess)
     const WindowParts parts{workspace,
                             prompts,
                             shell,
+                            codePage,
                             folder,
                             folderOfHelp(folder, QCoreApplication::applicationDirPath()),
                             std::move(endProcess),

@@ -6,6 +6,7 @@
 #include "ui/RecipientModel.h"
 #include "ui/frmAbout.h"
 #include "ui/frmEditor.h"
+#include "ui/frmPreview.h"
 #include "ui_frmMain.h"
 
 #include <QCloseEvent>
@@ -42,7 +43,8 @@ frmMain::frmMain(const WindowParts &parts)
                   m_workspace.windowSettings, m_workspace.engine, parts.prompts, parts.endProcess),
       m_place(parts.placeFile),
       m_recipients(new RecipientModel(m_workspace.recipients, this)),
-      m_binding(m_form, *this)
+      m_binding(m_form, *this),
+      m_codePage(parts.codePage)
 {
     setWindowIcon(Pictures::icon("application"));
     m_ui->mnuFile->insertSeparator(m_ui->mnuEditor)->setObjectName(QStringLiteral("mnuSep1"));
@@ -235,6 +237,10 @@ void frmMain::bindShortcuts()
         key.entry->setShortcut(key.keys);
         key.entry->setShortcutContext(Qt::WidgetShortcut);
     }
+    auto *const preview = new QShortcut(QKeySequence(Qt::Key_F5), this);
+    connect(preview, &QShortcut::activated, this, &frmMain::openPreview);
+    addPreviewTo(*m_ui->txtEmail, false);
+    addPreviewTo(*m_ui->txtHTML, true);
 }
 
 void frmMain::bindDrops()
@@ -297,6 +303,42 @@ void frmMain::showProgress()
 void frmMain::openHelpPage(const QString &page)
 {
     m_shell.open(helpAddress(m_helpFolder, page));
+}
+
+void frmMain::openPreview()
+{
+    if (!m_preview)
+        m_preview = new frmPreview(m_codePage, this);
+    QStringList names;
+    names.reserve(m_workspace.recipients.count());
+    for (const Recipient &row : m_workspace.recipients.rows())
+        names.append(row.name);
+    m_preview->Init({m_form.tag(Control::txtEmail), m_form.tag(Control::txtHTML),
+                     !m_form.text(Control::txtEmail).isEmpty(),
+                     !m_form.text(Control::txtHTML).isEmpty()},
+                    names);
+    m_preview->show();
+    m_preview->raise();
+    m_preview->activateWindow();
+}
+
+// Puts the preview of that message into the box's context menu.
+void frmMain::addPreviewTo(QLineEdit &box, bool html)
+{
+    box.setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&box, &QWidget::customContextMenuRequested, this, [this, &box, html](QPoint place) {
+        QMenu *const menu = box.createStandardContextMenu();
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->addSeparator();
+        QAction *const preview = menu->addAction(tr("Preview"), this, [this, html] {
+            openPreview();
+            m_preview->SetMode(html);
+        });
+        preview->setShortcut(QKeySequence(Qt::Key_F5));
+        preview->setShortcutContext(Qt::WidgetShortcut);
+        preview->setEnabled(!box.text().isEmpty());
+        menu->popup(box.mapToGlobal(place));
+    });
 }
 
 void frmMain::mnuEditor_Click()

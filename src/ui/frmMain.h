@@ -13,6 +13,9 @@
 #include <memory>
 
 class RecipientModel;
+class frmPreview;
+
+class QLineEdit;
 
 namespace Ui {
 class frmMain;
@@ -24,6 +27,7 @@ struct WindowParts
     Workspace &workspace;
     Prompts &prompts;
     Shell &shell;
+    const CodePage &codePage;
     QString programFolder;
     /// The folder that holds the help pages.
     QString helpFolder;
@@ -65,6 +69,8 @@ private:
     void mnuEditor_Click();
     void mnuAbout_Click();
     void openHelpPage(const QString &page);
+    void openPreview();
+    void addPreviewTo(QLineEdit &box, bool html);
 
     std::unique_ptr<Ui::frmMain> m_ui;
     Workspace &m_workspace;
@@ -78,6 +84,8 @@ private:
     WindowPlace m_place;
     RecipientModel *m_recipients;
     FormBinding m_binding;
+    const CodePage &m_codePage;
+    frmPreview *m_preview = nullptr; ///< made when it is first wanted
     bool m_hasPlace = false;
     quint32 m_progressProject = 0; ///< the project whose progress is shown
     bool m_showsRun = false;

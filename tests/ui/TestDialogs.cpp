@@ -202,6 +202,7 @@ void TestDialogs::sizeAndColumnsAreRemembered()
     frmMain again({rig.core->w,
                    rig.core->prompts,
                    rig.shell,
+                   rig.core->codePage,
                    {},
                    {},
                    [] {},
@@ -218,7 +219,8 @@ void TestDialogs::damagedMemoryOfTheWindowIsIgnored()
     WindowRig rig;
     const QString file = rig.core->file(
         u"window.ini"_s, "[General]\ngeometry=@ByteArray(rubbish)\ncolumns=-5, 99999999\n");
-    frmMain again({rig.core->w, rig.core->prompts, rig.shell, {}, {}, [] {}, file});
+    frmMain again(
+        {rig.core->w, rig.core->prompts, rig.shell, rig.core->codePage, {}, {}, [] {}, file});
     again.Form_Load({});
     again.show();
     QVERIFY(QTest::qWaitForWindowExposed(&again));

@@ -2,13 +2,20 @@
 
 #include "Languages.h"
 #include "WindowRig.h"
+#include "ui/HtmlView.h"
+#include "ui/frmPreview.h"
 
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRadioButton>
 
 using namespace Qt::StringLiterals;
 
@@ -112,6 +119,87 @@ void TestMainWindow::menusShowTheShortcuts()
     QCOMPARE(rig.get<QAction>("mnuNuovo").shortcut(), QKeySequence(Qt::CTRL | Qt::Key_N));
     QCOMPARE(rig.get<QAction>("mnuSalvaConNome").shortcut(),
              QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+}
+
+void TestMainWindow::f5OpensThePreviewOfTheHtml()
+{
+    WindowRig rig;
+    rig.show();
+    rig.core->useTextMessage("Dear *NOME*");
+    rig.core->useHtmlMessage("<p>Dear <b>*NOME*</b></p>");
+    QTest::keyClick(rig.window.get(), Qt::Key_F5);
+    auto &preview = rig.get<frmPreview>("frmPreview");
+    QVERIFY(preview.isVisible());
+    QVERIFY(rig.get<QRadioButton>("Option2").isChecked());
+    QCOMPARE(preview.findChild<HtmlView *>()->plainText().trimmed(), u"Dear *NOME*"_s);
+}
+
+void TestMainWindow::previewKnowsTheRecipients()
+{
+    WindowRig rig;
+    rig.show();
+    rig.core->fillForm(3);
+    QTest::keyClick(rig.window.get(), Qt::Key_F5);
+    auto &names = rig.get<QComboBox>("cboNome");
+    QCOMPARE(names.count(), 4);
+    names.setCurrentIndex(2);
+    QCOMPARE(rig.get<frmPreview>("frmPreview").findChild<QPlainTextEdit *>()->toPlainText(),
+             u"Dear Name 2,\n"_s);
+}
+
+void TestMainWindow::previewOpensFromTheMenuOfItsBox_data()
+{
+    QTest::addColumn<QString>("box");
+    QTest::addColumn<QString>("option");
+    QTest::addRow("text") << u"txtEmail"_s << u"Option1"_s;
+    QTest::addRow("HTML") << u"txtHTML"_s << u"Option2"_s;
+}
+
+void TestMainWindow::previewOpensFromTheMenuOfItsBox()
+{
+    QFETCH(QString, box);
+    QFETCH(QString, option);
+    WindowRig rig;
+    rig.show();
+    rig.core->useTextMessage("Dear *NOME*");
+    rig.core->useHtmlMessage("<p>Dear <b>*NOME*</b></p>");
+    auto &edit = rig.get<QLineEdit>(qPrintable(box));
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, {5, 5}, edit.mapToGlobal(QPoint(5, 5)));
+    QCoreApplication::sendEvent(&edit, &event);
+    auto *const menu = edit.findChild<QMenu *>();
+    QVERIFY(menu);
+    QAction *const entry = menu->actions().constLast();
+    QCOMPARE(entry->text(), u"Preview"_s);
+    entry->trigger();
+    delete menu;
+    QVERIFY(rig.get<frmPreview>("frmPreview").isVisible());
+    QVERIFY(rig.get<QRadioButton>(qPrintable(option)).isChecked());
+}
+
+void TestMainWindow::previewHasItsCaptions_data()
+{
+    addLanguages();
+}
+
+void TestMainWindow::previewHasItsCaptions()
+{
+    QFETCH(Language, language);
+    const bool isItalian = language == Language::Italian;
+    WindowRig rig(language);
+    rig.show();
+    rig.core->useTextMessage("Dear *NOME*");
+    QTest::keyClick(rig.window.get(), Qt::Key_F5);
+    auto &preview = rig.get<frmPreview>("frmPreview");
+    QCOMPARE(preview.windowTitle(), isItalian ? u"Anteprima"_s : u"Preview"_s);
+    QCOMPARE(rig.get<QRadioButton>("Option1").text(), isItalian ? u"Testo"_s : u"Text"_s);
+    QCOMPARE(rig.get<QRadioButton>("Option2").text(), u"HTML"_s);
+    QCOMPARE(rig.get<QPushButton>("cmdChiudi").text(), isItalian ? u"Chiudi"_s : u"Close"_s);
+    const auto &format = *preview.findChild<QLabel *>(u"Label1"_s);
+    QCOMPARE(format.text(), isItalian ? u"Formato: testo"_s : u"Format: plain text"_s);
+    preview.SetMode(true);
+    QCOMPARE(format.text(), isItalian ? u"Formato: HTML"_s : u"Format: HTML"_s);
+    QCOMPARE(rig.get<QComboBox>("cboNome").itemText(0),
+             isItalian ? u"Come è scritto"_s : u"As written"_s);
 }
 
 void TestMainWindow::helpPagesAreTheSameInBothLanguages_data()

@@ -16,6 +16,12 @@ private Q_SLOTS:
     void shortcutWorksWhereTheMenuIsDisabled();
     void shortcutOfADisabledButtonDoesNothing();
     void menusShowTheShortcuts();
+    void f5OpensThePreviewOfTheHtml();
+    void previewKnowsTheRecipients();
+    void previewOpensFromTheMenuOfItsBox_data();
+    void previewOpensFromTheMenuOfItsBox();
+    void previewHasItsCaptions_data();
+    void previewHasItsCaptions();
     void helpPagesAreTheSameInBothLanguages_data();
     void helpPagesAreTheSameInBothLanguages();
     void exitEndsAtOnce();

@@ -24,6 +24,7 @@ public:
         const WindowParts parts{core->w,
                                 core->prompts,
                                 shell,
+                                core->codePage,
                                 core->folder.path(),
                                 core->folder.path(),
                                 [this] { ++endings; },
