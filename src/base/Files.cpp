@@ -28,6 +28,7 @@ bool writeWhole(QSaveFile &file, const QByteArray &content)
             return false;
         written += part;
     }
+    // The same for what the file still held back: the second try gets the reason.
     return file.flush() || file.flush();
 }
 

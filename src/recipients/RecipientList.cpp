@@ -89,7 +89,7 @@ void RecipientList::setCheckedWithImage(int position, bool checked, qint16 image
     Q_EMIT rowChanged(position);
 }
 
-const QString &RecipientList::textOf(const Recipient &row, Column column) const
+const QString &RecipientList::textOf(const Recipient &row, Column column)
 {
     switch (column) {
     case Column::Number:

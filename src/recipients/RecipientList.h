@@ -24,6 +24,8 @@ public:
     [[nodiscard]] int count() const { return static_cast<int>(m_rows.size()); }
     [[nodiscard]] const Recipient &at(int position) const { return m_rows[index(position)]; }
     [[nodiscard]] const std::vector<Recipient> &rows() const { return m_rows; }
+    /// What a row shows in that column.
+    [[nodiscard]] static const QString &textOf(const Recipient &row, Column column);
     /// Where the row with that identity is now; 0 when it is gone. Looks at the hint first.
     [[nodiscard]] int positionOf(quint64 id, int hint = 0) const;
     /// How many rows from that position on are checked.
@@ -65,7 +67,6 @@ private:
     {
         return static_cast<std::size_t>(position - 1);
     }
-    [[nodiscard]] const QString &textOf(const Recipient &row, Column column) const;
 
     QCollator m_collator;
     std::vector<Recipient> m_rows;

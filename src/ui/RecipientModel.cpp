@@ -85,17 +85,7 @@ QVariant RecipientModel::data(const QModelIndex &index, int role) const
     const auto column = static_cast<Column>(index.column());
     switch (role) {
     case Qt::DisplayRole:
-        switch (column) {
-        case Column::Number:
-            return row.number;
-        case Column::Name:
-            return row.name;
-        case Column::Address:
-            return row.address;
-        case Column::State:
-            return row.state;
-        }
-        break;
+        return RecipientList::textOf(row, column);
     case Qt::CheckStateRole:
         if (column == Column::Number)
             return row.checked ? Qt::Checked : Qt::Unchecked;

@@ -12,10 +12,9 @@
 #include <functional>
 #include <memory>
 
+class QLineEdit;
 class RecipientModel;
 class frmPreview;
-
-class QLineEdit;
 
 namespace Ui {
 class frmMain;
