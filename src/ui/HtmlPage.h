@@ -8,6 +8,7 @@
 #include <chrono>
 #include <memory>
 
+class HtmlCanvas;
 class QPainter;
 
 /// An HTML text laid out as a page. No script runs, and nothing but the pictures and style sheets
@@ -39,6 +40,5 @@ public:
 private:
     HtmlPage(const QString &folder, std::chrono::milliseconds patience);
 
-    class Canvas;
-    std::unique_ptr<Canvas> m_canvas;
+    std::unique_ptr<HtmlCanvas> m_canvas;
 };

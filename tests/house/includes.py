@@ -59,7 +59,12 @@ class House:
                     if matches(header, rule["headers"]):
                         users[name].append(relative)
         for name, files in users.items():
-            if len(set(files)) > 1:
+            allowed = self.single[name].get("files")
+            if allowed:
+                for file in sorted(set(files)):
+                    if not matches(file.as_posix(), allowed):
+                        found.append(f"{file}: {name} belongs into {' or '.join(allowed)}")
+            elif len(set(files)) > 1:
                 listed = ", ".join(str(file) for file in files)
                 found.append(f"{name} is included by more than one file: {listed}")
         return found
@@ -93,9 +98,9 @@ class House:
         return None
 
 
-def matches(header, patterns):
-    """Whether a header is one of those that the patterns name."""
-    return any(fnmatch.fnmatchcase(header, pattern) for pattern in patterns)
+def matches(path, patterns):
+    """Whether a header or a file is one of those that the patterns name."""
+    return any(fnmatch.fnmatchcase(path, pattern) for pattern in patterns)
 
 
 def load(qt_folder):

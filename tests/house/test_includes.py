@@ -96,6 +96,14 @@ class PlantedIncludes(unittest.TestCase):
             (client / name).write_text("#include <gmime/gmime.h>\n", encoding="utf-8")
         self.assertTrue([fault for fault in HOUSE.faults(self.src) if fault.startswith("GMime")])
 
+    def test_litehtml_is_seen_outside_the_files_that_may_know_it(self):
+        names = ("HtmlCanvas.h", "HtmlElements.cpp", "HtmlPage.cpp", "HtmlPage.h", "Planted.cpp")
+        for name in names:
+            file = self.src / "ui" / name
+            file.write_text("#include <litehtml/litehtml.h>\n", encoding="utf-8")
+        faults = [fault.split(":")[0] for fault in HOUSE.faults(self.src) if "litehtml" in fault]
+        self.assertEqual(faults, ["ui/HtmlPage.h", "ui/Planted.cpp"])
+
     def test_blanks_do_not_hide_an_include(self):
         self.assertEqual(len(self.faults_with("base", '  #  include  "log/Present.h"')), 1)
 
