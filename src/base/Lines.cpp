@@ -20,3 +20,9 @@ std::optional<QStringView> LineReader::next()
     m_rest = m_rest.sliced(lineEndLength(m_rest));
     return line;
 }
+
+QString oneLine(QString text)
+{
+    text.replace(QLatin1String("\r\n"), QLatin1String(" "));
+    return text.replace(u'\r', u' ').replace(u'\n', u' ');
+}

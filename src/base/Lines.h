@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QStringView>
 
 #include <optional>
@@ -20,3 +21,7 @@ private:
 
 /// The length of the line end at the start of the text: 2 for CR LF, 1 for CR or LF, else 0.
 [[nodiscard]] int lineEndLength(QStringView text);
+
+/// The text as one line: each line end becomes a blank. What is pasted into a box for one line may
+/// hold several, and would tear the lines of a file apart.
+[[nodiscard]] QString oneLine(QString text);

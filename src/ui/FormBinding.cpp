@@ -1,5 +1,7 @@
 #include "ui/FormBinding.h"
 
+#include "base/Lines.h"
+
 #include <QAction>
 #include <QCheckBox>
 #include <QLabel>
@@ -26,7 +28,7 @@ void FormBinding::bind(Control control)
 {
     if (auto *const edit = qobject_cast<QLineEdit *>(objectOf(control))) {
         connect(edit, &QLineEdit::textEdited, this,
-                [this, control](const QString &text) { m_form.setText(control, text); });
+                [this, control](const QString &text) { m_form.setText(control, oneLine(text)); });
     } else if (auto *const box = qobject_cast<QCheckBox *>(objectOf(control))) {
         connect(box, &QCheckBox::toggled, this,
                 [this, control](bool checked) { m_form.setChecked(control, checked); });

@@ -1,5 +1,7 @@
 #include "ui/WindowPrompts.h"
 
+#include "base/Lines.h"
+
 #include "ui/FileBox.h"
 #include "ui/MessageBox.h"
 
@@ -92,7 +94,8 @@ void WindowPrompts::askText(const InputBox &box, Stands stands, std::function<vo
         // Names and addresses are longer than Qt thinks.
         input->resize(input->sizeHint().expandedTo({400, 0}));
         connect(input, &QDialog::finished, this, [this, input, stands, then](int result) {
-            const QString text = result == QDialog::Accepted ? input->textValue() : QString();
+            const QString text =
+                result == QDialog::Accepted ? oneLine(input->textValue()) : QString();
             post(stands, [then, text] { then(text); });
         });
         return input;

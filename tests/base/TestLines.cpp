@@ -44,3 +44,9 @@ void TestLines::lineEndsAtTheStart()
     QCOMPARE(lineEndLength(u"x\r\n"), 0);
     QCOMPARE(lineEndLength(u""), 0);
 }
+
+void TestLines::severalLinesBecomeOne()
+{
+    QCOMPARE(oneLine(QStringLiteral("a\r\nb\rc\n\nd")), QStringLiteral("a b c  d"));
+    QCOMPARE(oneLine(QStringLiteral("plain")), QStringLiteral("plain"));
+}

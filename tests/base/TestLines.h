@@ -11,4 +11,5 @@ private Q_SLOTS:
     void lines_data();
     void lines();
     void lineEndsAtTheStart();
+    void severalLinesBecomeOne();
 };

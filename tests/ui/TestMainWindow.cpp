@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QLabel>
@@ -28,6 +29,17 @@ void TestMainWindow::typedTextsReachTheForm()
     QTest::keyClicks(&server, u"mail.example.org"_s);
     QCOMPARE(rig.core->w.form.text(Control::txtServer), u"mail.example.org"_s);
     QVERIFY(rig.core->w.form.projectModified());
+}
+
+void TestMainWindow::pastedLinesBecomeOne()
+{
+    WindowRig rig;
+    rig.show();
+    QGuiApplication::clipboard()->setText(u"News\nof May"_s);
+    auto &subject = rig.get<QLineEdit>("txtOggetto");
+    QTest::keyClick(&subject, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(rig.core->w.form.text(Control::txtOggetto), u"News of May"_s);
+    QCOMPARE(subject.text(), u"News of May"_s);
 }
 
 void TestMainWindow::fullPathIsTheTooltip()

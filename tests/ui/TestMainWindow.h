@@ -8,6 +8,7 @@ class TestMainWindow : public WindowTest
 
 private Q_SLOTS:
     void typedTextsReachTheForm();
+    void pastedLinesBecomeOne();
     void fullPathIsTheTooltip();
     void checksReachTheForm();
     void cursorStaysWhereTheUserTypes();

@@ -823,6 +823,18 @@ void TestWindowPrompts::keysAnswerAnInputBox()
     QTRY_COMPARE(answers, QStringList({answer}));
 }
 
+void TestWindowPrompts::linesPastedIntoAnInputBoxBecomeOne()
+{
+    Rig rig;
+    QStringList answers;
+    rig.prompts.askText({u"New recipient"_s, u"Name:"_s}, always,
+                        [&answers](const QString &text) { answers.append(text); });
+    QTRY_VERIFY(rig.inputBox());
+    rig.inputBox()->findChild<QLineEdit *>()->insert(u"Ada\nLovelace"_s);
+    press(rig.inputBox(), Qt::Key_Return);
+    QTRY_COMPARE(answers, QStringList({u"Ada Lovelace"_s}));
+}
+
 void TestWindowPrompts::theInputBoxIsLabelled()
 {
     Rig rig;

@@ -62,6 +62,7 @@ private Q_SLOTS:
     // Input boxes.
     void keysAnswerAnInputBox_data();
     void keysAnswerAnInputBox();
+    void linesPastedIntoAnInputBoxBecomeOne();
     void theInputBoxIsLabelled();
 
     // File dialogs.
