@@ -91,6 +91,7 @@ void RecipientView::fillUp()
 std::vector<int> RecipientView::columnWidths() const
 {
     std::vector<int> widths;
+    widths.reserve(static_cast<std::size_t>(header()->count()));
     for (int column = 0; column < header()->count(); ++column)
         widths.push_back(columnWidth(column));
     return widths;
