@@ -10,6 +10,7 @@ start-up included, divided by the number of messages.
 import json
 import os
 import random
+import statistics
 import subprocess
 import sys
 import tempfile
@@ -24,6 +25,7 @@ MESSAGES = int(sys.argv[2])
 MESSAGES_WITH_ATTACHMENT = max(MESSAGES // 5, 20)
 MESSAGES_OVER_A_NETWORK = 100
 MESSAGES_WITH_A_WINDOW = 5000
+RUNS_WITH_A_WINDOW = 5  # since a few hundredths of a second are told apart
 ROUND_TRIP_MS = 50
 LONGEST_LIST = 32767
 MIB = 1024 * 1024
@@ -266,10 +268,14 @@ class Bench:
         with Screen() as screen, Server("bench_sink", "chunking") as sink:
             project = self.project(sink.port, MESSAGES_WITH_A_WINDOW)
             command = BUILD / "bin" / "sorvanta-cli"
-            # Without a window, less what starting and reading the project costs.
-            bare = Usage([command, "send", project]).cpu - Usage([command, "check", project]).cpu
-            run = screen.window(self.folder, "run", project)
-            assert not run["failed"]
+            runs, shares = [], []
+            for _ in range(RUNS_WITH_A_WINDOW):
+                # Without a window, less what starting and reading the project costs.
+                sending = Usage([command, "send", project]).cpu
+                bare = sending - Usage([command, "check", project]).cpu
+                runs.append(screen.window(self.folder, "run", project))
+                assert not runs[-1]["failed"]
+                shares.append(100 * (runs[-1]["processor"] - bare) / runs[-1]["seconds"])
             rows = [
                 Row(f"Zoë Recipient {i}", f"recipient{i}@bench.example", state)
                 for i, state in enumerate(
@@ -279,9 +285,9 @@ class Bench:
             long_list = Project(server="127.0.0.1", rows=rows).write(self.folder / "states.svk")
             actions = screen.window(self.folder, "list", long_list)
         count = f"{MESSAGES_WITH_A_WINDOW:,}"
-        share = 100 * (run["processor"] - bare) / run["seconds"]
+        share = statistics.median(shares)
         self.table.add(f"window, run of {count}, share of a core", share, "%", most=5)
-        stall = run["longest"] * 1000
+        stall = max(run["longest"] for run in runs) * 1000
         self.table.add(f"window, run of {count}, longest stall", stall, "ms", most=50)
         opening = actions.pop("open")
         self.table.add(f"window, {LONGEST_LIST:,} recipients, open", opening, "s", most=0.5)
