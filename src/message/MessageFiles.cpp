@@ -47,17 +47,22 @@ void MessageFiles::cmdHTML_Click()
 
 void MessageFiles::choose(Control box, Control button, FileDialog dialog)
 {
-    constexpr qint16 ShownWidth = 60;
     dialog.initialFolder = documentFolder();
     m_prompts.askFile(dialog, whileEnabled(button), [this, box](const QString &name) {
         if (name.isEmpty())
             return;
         rememberFolderOf(name);
-        m_form.setTag(box, name);
-        m_form.setText(box, Wrap(name, ShownWidth));
-        m_form.setProjectModified(true);
-        m_size.UpdateMessageSize();
+        use(box, name);
     });
+}
+
+void MessageFiles::use(Control box, const QString &path)
+{
+    constexpr qint16 ShownWidth = 60;
+    m_form.setTag(box, path);
+    m_form.setText(box, Wrap(path, ShownWidth));
+    m_form.setProjectModified(true);
+    m_size.UpdateMessageSize();
 }
 
 void MessageFiles::cmdCancellaTXT_Click()

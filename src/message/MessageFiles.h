@@ -21,6 +21,8 @@ public:
     void cmdHTML_Click();
     void cmdCancellaTXT_Click();
     void cmdCancellaHTML_Click();
+    /// Makes that file the message of the box, txtEmail or txtHTML.
+    void use(Control box, const QString &path);
     /// Asks for the name of a new message file, creates it empty when it is missing, and hands the
     /// name on; an empty one when the user cancels, or when a box said that it cannot be created.
     void NewMessageFile(const QString &filter, std::function<void(QString)> then);

@@ -27,14 +27,9 @@ bool isDefaultEditor(const QString &command)
 
 } // namespace
 
-EditorCommands::EditorCommands(Form &form, MessageFiles &files, MessageSize &size,
-                               const WindowSettings &settings, Prompts &prompts, Shell &shell)
-    : m_form(form),
-      m_files(files),
-      m_size(size),
-      m_settings(settings),
-      m_prompts(prompts),
-      m_shell(shell)
+EditorCommands::EditorCommands(Form &form, MessageFiles &files, const WindowSettings &settings,
+                               Prompts &prompts, Shell &shell)
+    : m_form(form), m_files(files), m_settings(settings), m_prompts(prompts), m_shell(shell)
 {}
 
 // The filters for new files are Italian in both languages.
@@ -57,13 +52,11 @@ void EditorCommands::edit(Control box, const QString &newFilter, const QString &
         return;
     }
     m_files.NewMessageFile(newFilter, [this, box, editor](const QString &path) {
-        constexpr qint16 ShownWidth = 60;
-        m_form.setTag(box, path);
-        if (path.isEmpty())
+        if (path.isEmpty()) {
+            m_form.setTag(box, {});
             return;
-        m_form.setText(box, Wrap(path, ShownWidth));
-        m_form.setProjectModified(true);
-        m_size.UpdateMessageSize();
+        }
+        m_files.use(box, path);
         start(editor, path);
     });
 }

@@ -3,7 +3,6 @@
 #include "base/Shell.h"
 #include "form/Form.h"
 #include "message/MessageFiles.h"
-#include "message/MessageSize.h"
 #include "project/WindowSettings.h"
 #include "prompts/Prompts.h"
 
@@ -15,8 +14,8 @@ class EditorCommands
     Q_DECLARE_TR_FUNCTIONS(EditorCommands)
 
 public:
-    EditorCommands(Form &form, MessageFiles &files, MessageSize &size,
-                   const WindowSettings &settings, Prompts &prompts, Shell &shell);
+    EditorCommands(Form &form, MessageFiles &files, const WindowSettings &settings,
+                   Prompts &prompts, Shell &shell);
 
     /// Opens the text message; when none is chosen yet, a new one is created first.
     void cmdPreviewTXT_Click();
@@ -29,7 +28,6 @@ private:
 
     Form &m_form;
     MessageFiles &m_files;
-    MessageSize &m_size;
     const WindowSettings &m_settings;
     Prompts &m_prompts;
     Shell &m_shell;

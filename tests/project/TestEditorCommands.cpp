@@ -24,7 +24,7 @@ struct Rig : WorkspaceRig
     }
 
     FakeShell shell;
-    EditorCommands editors{w.form, w.messageFiles, w.size, w.windowSettings, prompts, shell};
+    EditorCommands editors{w.form, w.messageFiles, w.windowSettings, prompts, shell};
 };
 
 } // namespace

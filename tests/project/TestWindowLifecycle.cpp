@@ -22,6 +22,17 @@ struct Rig : WorkspaceRig
         reg.ReadStr(Settings::Server, server);
         return server;
     }
+    /// A save that waits for the message in flight of a paused run; returns its path.
+    QString saveThatWaits()
+    {
+        fillForm(3);
+        const QString path = folder.filePath(QStringLiteral("paused.svk"));
+        w.form.setProjectPath(path);
+        startSending();
+        w.engine.cmdPausa_Click();
+        w.projectCommands.cmdSave_Click();
+        return path;
+    }
     QString savedProject(const char *name)
     {
         const QString path = folder.filePath(QString::fromLatin1(name));
@@ -205,12 +216,7 @@ void TestWindowLifecycle::endOfTheSessionAsksNothingAndSavesTheSettings()
 void TestWindowLifecycle::endOfTheSessionFinishesAWaitingSave()
 {
     Rig rig;
-    rig.fillForm(3);
-    const QString path = rig.folder.filePath(QStringLiteral("paused.svk"));
-    rig.w.form.setProjectPath(path);
-    rig.startSending();
-    rig.w.engine.cmdPausa_Click();
-    rig.w.projectCommands.cmdSave_Click();
+    const QString path = rig.saveThatWaits();
     QVERIFY(!QFile::exists(path));
     rig.life.Form_QueryUnload(UnloadMode::SessionEnds);
     QCOMPARE(rig.endings, 1);
@@ -221,12 +227,7 @@ void TestWindowLifecycle::endOfTheSessionFinishesAWaitingSave()
 void TestWindowLifecycle::closeWaitsForAWaitingSave()
 {
     Rig rig;
-    rig.fillForm(3);
-    const QString path = rig.folder.filePath(QStringLiteral("paused.svk"));
-    rig.w.form.setProjectPath(path);
-    rig.startSending();
-    rig.w.engine.cmdPausa_Click();
-    rig.w.projectCommands.cmdSave_Click();
+    const QString path = rig.saveThatWaits();
     rig.life.Form_QueryUnload(UnloadMode::User);
     Rig::settle();
     QVERIFY(rig.prompts.questions.isEmpty());
