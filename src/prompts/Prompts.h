@@ -27,6 +27,7 @@ enum class Topic {
     SaveBeforeExit,
     LinkedImages,
     StopProcedure,
+    TrustCertificate,
 };
 
 enum class Buttons { YesNo, YesNoCancel, OkCancel };

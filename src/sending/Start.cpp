@@ -2,8 +2,8 @@
 
 #include "sending/SendingEngine.h"
 
-#include "base/Numbers.h"
 #include "sending/StartRefusals.h"
+#include "smtp/ServerAddress.h"
 #include "smtp/SmtpErrorNumber.h"
 
 #include <QCoreApplication>
@@ -14,9 +14,6 @@ struct Texts
 {
     Q_DECLARE_TR_FUNCTIONS(Start)
 };
-
-constexpr qint32 StandardPort = 25; // RFC 5321, section 4.5.4.2
-constexpr qint32 HighestPort = 65535;
 
 } // namespace
 
@@ -124,20 +121,18 @@ bool SendingEngine::loadBodies()
 void SendingEngine::ConnectForPacket()
 {
     m_SMTP.Reset();
-    const QString server = m_form.text(Control::txtServer);
-    const qsizetype colon = server.indexOf(u':');
-    const QString portText = colon < 0 ? QString() : server.mid(colon + 1);
-    const auto port =
-        colon < 0 ? std::optional<qint64>(StandardPort) : wholeNumber(portText, 1, HighestPort);
-    m_SMTP.Server = server.left(colon < 0 ? server.size() : colon);
-    m_SMTP.Port = static_cast<qint32>(port.value_or(0));
+    const QString text = m_form.text(Control::txtServer);
+    const auto server = ServerAddress::parse(text);
+    m_SMTP.Server = server ? server->host : text.section(u':', 0, 0);
+    m_SMTP.Port = server ? server->port : 0;
     m_sessionIsOfThisRun = true;
-    if (port)
+    if (server)
         m_SMTP.Connect();
     m_AppLog.WriteMessage(QStringLiteral("Sending procedure started"));
-    if (!port) {
+    if (!server) {
         // English in both windows, as every error of a session: the log gets the same text.
-        SMTP_SmtpError(static_cast<qint32>(SmtpErrorNumber::BadPort),
-                       QStringLiteral("'%1' is not a port number from 1 to 65535").arg(portText));
+        SMTP_SmtpError(
+            static_cast<qint32>(SmtpErrorNumber::BadPort),
+            QStringLiteral("'%1' is not a port number from 1 to 65535").arg(server.error()));
     }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/ServerReply.h"
+#include "smtp/ServerReport.h"
 
 #include <QList>
 #include <QObject>
@@ -77,6 +78,8 @@ public:
     /// Inside SmtpError: whether the server may have accepted the message in flight all the same.
     /// A client that cannot tell says yes.
     [[nodiscard]] virtual bool mayHaveBeenAccepted() const { return true; }
+    /// Inside SmtpError: the certificate that the error is about; nothing for every other error.
+    [[nodiscard]] virtual std::optional<ServerCertificate> refusedCertificate() const { return {}; }
 
 Q_SIGNALS:
     /// A failure of the session. Description is one line.
@@ -85,4 +88,6 @@ Q_SIGNALS:
     /// recipient.
     void MessageDone(bool Sent);
     void StatusChanged(qint32 Code);
+    /// The session waits for a login, perhaps for a person who types it; or waits no longer.
+    void LoginAwaited(bool waits);
 };

@@ -22,11 +22,6 @@ QString refusal(const WireReply &reply)
 
 } // namespace
 
-QString SmtpTarget::toText() const
-{
-    return host + u':' + QString::number(port);
-}
-
 Session::Session(const Limits &limits, QString hostName, QObject *parent)
     : QObject(parent),
       m_limits(limits),
@@ -46,7 +41,7 @@ void Session::enter(Phase phase, const QString &reason)
     m_phase = phase;
 }
 
-void Session::open(const SmtpTarget &target, bool mayChunk)
+void Session::open(const ServerAddress &target, bool mayChunk)
 {
     m_targetName = target.toText();
     m_mayChunk = mayChunk;

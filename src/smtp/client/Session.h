@@ -1,5 +1,6 @@
 #pragma once
 
+#include "smtp/ServerAddress.h"
 #include "smtp/client/Limits.h"
 #include "smtp/client/ReplyReader.h"
 #include "smtp/client/SessionFault.h"
@@ -10,16 +11,6 @@
 #include <QTcpSocket>
 
 #include <optional>
-
-/// The server of a session.
-struct SmtpTarget
-{
-    QString host;
-    quint16 port = 0;
-
-    /// "host:port"
-    [[nodiscard]] QString toText() const;
-};
 
 /// What became of the message that a session carried.
 struct Settlement
@@ -42,7 +33,7 @@ public:
     Session(const Limits &limits, QString hostName, QObject *parent);
 
     /// Opens the connection; the session reports when it is ready or has failed.
-    void open(const SmtpTarget &target, bool mayChunk);
+    void open(const ServerAddress &target, bool mayChunk);
     /// Transfers a message in a session that is ready.
     void send(const Letter &letter);
     /// Ends the session politely, as far as it has come. It reports nothing any more and deletes

@@ -100,7 +100,7 @@ private:
     /// Connect was called, and since then neither Reset nor Disconnect nor an error came: the
     /// engine may send.
     bool m_isWanted = false;
-    SmtpTarget m_target;          ///< of the present session, or of the last one
+    ServerAddress m_target;          ///< of the present session, or of the last one
     Session *m_session = nullptr; ///< none while the server has ended it
     bool m_wasReady = false;      ///< the present session
     std::optional<InFlight> m_inFlight;

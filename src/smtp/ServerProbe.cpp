@@ -1,0 +1,1 @@
+#include "smtp/ServerProbe.h"
