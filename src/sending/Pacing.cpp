@@ -46,6 +46,14 @@ void SendingEngine::Timer_Timer()
     ConnectForPacket();
 }
 
+// Somebody may have to find a password first. Whoever pauses or stops meanwhile sees that instead.
+void SendingEngine::SMTP_LoginAwaited(bool waits)
+{
+    if (m_sessionIsOfThisRun && m_form.runState() == RunState::Sending)
+        m_form.setText(Control::lblTimer,
+                       waits ? Texts::tr("Waiting for the login...") : Texts::tr("Sending..."));
+}
+
 void SendingEngine::failTimer(const QString &reason)
 {
     m_prompts.notice({Icon::Critical, Texts::tr("Error"), reason});

@@ -20,6 +20,7 @@ SendingEngine::SendingEngine(const EngineParts &parts)
     m_Timer.onTick = [this] { Timer_Timer(); };
     m_Timer2.onTick = [this] { Timer2_Timer(); };
     connect(&m_SMTP, &Smtp::StatusChanged, this, &SendingEngine::SMTP_StatusChanged);
+    connect(&m_SMTP, &Smtp::LoginAwaited, this, &SendingEngine::SMTP_LoginAwaited);
     connect(&m_SMTP, &Smtp::MessageDone, this, &SendingEngine::SMTP_MessageDone);
     connect(&m_SMTP, &Smtp::SmtpError, this, &SendingEngine::SMTP_SmtpError);
 }

@@ -136,6 +136,7 @@ private:
 
     // Pacing
     void Timer_Timer();
+    void SMTP_LoginAwaited(bool waits);
     void pause();
     void resume();
     void endRunOfItself(const QString &text);

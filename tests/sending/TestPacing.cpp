@@ -353,6 +353,44 @@ void TestPacing::stoppingEmptiesTheWorkingFolder()
     QCOMPARE(temp.entryList(QDir::Files), QStringList());
 }
 
+void TestPacing::aRunShowsThatItWaitsForALogin()
+{
+    WorkspaceRig rig;
+    rig.fillForm(2);
+    rig.start();
+    rig.Timer.tick();
+    Q_EMIT rig.smtp.LoginAwaited(true);
+    QCOMPARE(rig.label(Control::lblTimer), QStringLiteral("Waiting for the login..."));
+    QVERIFY(rig.w.form.isEnabled(Control::cmdStop));
+    Q_EMIT rig.smtp.LoginAwaited(false);
+    QCOMPARE(rig.label(Control::lblTimer), QStringLiteral("Sending..."));
+}
+
+void TestPacing::aPausedRunShowsItsPauseWhileALoginIsAwaited()
+{
+    WorkspaceRig rig;
+    rig.fillForm(2);
+    rig.start();
+    rig.Timer.tick();
+    Q_EMIT rig.smtp.LoginAwaited(true);
+    rig.w.engine.cmdPausa_Click();
+    QCOMPARE(rig.label(Control::lblTimer), QStringLiteral("Pause..."));
+    Q_EMIT rig.smtp.LoginAwaited(false);
+    QCOMPARE(rig.label(Control::lblTimer), QStringLiteral("Pause..."));
+}
+
+void TestPacing::aStoppedRunLeavesTheLabelAloneWhenItsLoginComes()
+{
+    WorkspaceRig rig;
+    rig.fillForm(2);
+    rig.start();
+    rig.Timer.tick();
+    Q_EMIT rig.smtp.LoginAwaited(true);
+    rig.w.engine.StopSending();
+    Q_EMIT rig.smtp.LoginAwaited(false);
+    QCOMPARE(rig.label(Control::lblTimer), QStringLiteral("Not started"));
+}
+
 void TestPacing::anEnteredPauseIsResumedWithinASecond()
 {
     WorkspaceRig rig;

@@ -28,6 +28,9 @@ private Q_SLOTS:
     void stoppingRemovesExactlyTheControlRow();
     void aStoppedRunKeepsTheShownElapsedTime();
     void stoppingEmptiesTheWorkingFolder();
+    void aRunShowsThatItWaitsForALogin();
+    void aPausedRunShowsItsPauseWhileALoginIsAwaited();
+    void aStoppedRunLeavesTheLabelAloneWhenItsLoginComes();
     void anEnteredPauseIsResumedWithinASecond();
     void aTimerThatFailsEndsTheRun();
 };
