@@ -1,6 +1,6 @@
 #include "smtp/ServerReport.h"
 
-#include <QCryptographicHash>
+#include <QRegularExpression>
 
 QString fingerprintText(const QByteArray &fingerprint)
 {
@@ -9,9 +9,8 @@ QString fingerprintText(const QByteArray &fingerprint)
 
 QByteArray fingerprintOf(const QString &text)
 {
-    QString digits = text.simplified();
-    digits.remove(u':').remove(u' ');
-    const QByteArray bytes = QByteArray::fromHex(digits.toLatin1());
-    const bool isWhole = bytes.size() == QCryptographicHash::hashLength(QCryptographicHash::Sha256);
-    return isWhole && bytes.size() * 2 == digits.size() ? bytes : QByteArray();
+    static const QRegularExpression Sha256(QStringLiteral("^[0-9A-Fa-f]{64}$"));
+    QString digits = text;
+    digits.remove(u':').remove(QRegularExpression(QStringLiteral("\\s")));
+    return Sha256.match(digits).hasMatch() ? QByteArray::fromHex(digits.toLatin1()) : QByteArray();
 }

@@ -19,8 +19,27 @@ QString errorName(qint32 number)
         {SmtpErrorNumber::Unreadable, u"unreadable"_s},
         {SmtpErrorNumber::NotTaken, u"not taken"_s},
         {SmtpErrorNumber::InDoubt, u"in doubt"_s},
+        {SmtpErrorNumber::CannotEncrypt, u"cannot encrypt"_s},
+        {SmtpErrorNumber::CertificateRefused, u"certificate refused"_s},
+        {SmtpErrorNumber::NoEncryption, u"no encryption"_s},
+        {SmtpErrorNumber::LoginFailed, u"login failed"_s},
     };
     return Names.value(static_cast<SmtpErrorNumber>(number), u"unknown"_s);
+}
+
+WellKnownPorts portsFor(Dialogue::Port role, quint16 port)
+{
+    switch (role) {
+    case Dialogue::Port::Relay:
+        return {.relay = port};
+    case Dialogue::Port::Submission:
+        return {.submission = port};
+    case Dialogue::Port::Submissions:
+        return {.submissions = port};
+    case Dialogue::Port::Other:
+        break;
+    }
+    return {};
 }
 
 } // namespace
@@ -33,13 +52,17 @@ QString repliesText(const QList<ServerReply> &replies)
     return texts.join(u" | ");
 }
 
-Dialogue::Dialogue(const Limits &limits) : client(clock, limits)
+Dialogue::Dialogue(const Limits &limits, Port port)
+    : client(clock, fakes.surroundings(limits, portsFor(port, server.port())))
 {
     QObject::connect(&client, &Smtp::StatusChanged, &client, [this](qint32 code) {
         m_events += code == Smtp::Ready ? u"ready"_s : u"status %1"_s.arg(code);
     });
     QObject::connect(&client, &Smtp::MessageDone, &client, [this](bool sent) {
         m_events += (sent ? u"sent: "_s : u"refused: "_s) + repliesText(client.lastReplies());
+    });
+    QObject::connect(&client, &Smtp::LoginAwaited, &client, [this](bool waits) {
+        m_events += waits ? u"login awaited"_s : u"login no longer awaited"_s;
     });
     QObject::connect(&client, &Smtp::SmtpError, &client,
                      [this](qint32 number, const QString &description) {
@@ -87,6 +110,10 @@ QString Dialogue::step(const QString &line)
         return clientSays(words);
     if (line.startsWith(u"S: "))
         return serverSays(words);
+    if (line.startsWith(u"L< "))
+        return loginsHear(words);
+    if (line.startsWith(u"L: "))
+        return loginsSay(words);
     return line.isEmpty() ? QString() : u"no such step"_s;
 }
 
@@ -125,6 +152,12 @@ QString Dialogue::clientSays(const QString &line)
         return server.takeConnection();
     if (line == u"<closes>")
         return server.hear(FakeServer::Closed.toByteArray());
+    if (line == u"<encrypts>")
+        return server.awaitEncryption();
+    if (line == u"<hello and closes>")
+        return server.hearGarbageAndEnd("250 what do you mean?\r\n"_qba);
+    if (line == u"<empty line>")
+        return server.hear("\r\n"_qba);
     if (line == u"<message>")
         return server.hear(m_content);
     if (line == u"<stuffed>")
@@ -142,6 +175,12 @@ QString Dialogue::serverSays(const QString &line)
         return problem;
     if (line == u"<closes>")
         server.close();
+    else if (line == u"<encrypts>")
+        server.encrypt("220 go ahead\r\n"_qba);
+    else if (line == u"<injects>")
+        server.say("220 go ahead\r\n250 server.example\r\n"_qba);
+    else if (line == u"<talks on>")
+        server.say("220 go ahead\r\n"_qba);
     else if (line == u"<endless line>")
         server.say("250 " + QByteArray(Limits().replyLineLength, 'x'));
     else
@@ -149,9 +188,35 @@ QString Dialogue::serverSays(const QString &line)
     return {};
 }
 
+QString Dialogue::loginsHear(const QString &event)
+{
+    QStringList &events = fakes.logins.events;
+    if (!FakeServer::waitUntil([&] { return !events.isEmpty(); }))
+        return u"nobody asks for a login, nor says how one went"_s;
+    const QString said = events.takeFirst();
+    return said == event ? QString() : u"it was said: "_s + said;
+}
+
+QString Dialogue::loginsSay(const QString &login)
+{
+    FakeServer::settle(); // people take their time
+    const QStringList words = login.split(u' ');
+    if (!fakes.logins.isAsked())
+        return u"nobody has asked"_s;
+    if (login == u"none")
+        fakes.logins.answer(tl::unexpected(u"no login is known"_s));
+    else if (words.size() == 3)
+        fakes.logins.answer(Login{Login::Kind::Token, words[1], words[2]});
+    else
+        fakes.logins.answer(Login{Login::Kind::Password, words.value(0), words.value(1)});
+    return {};
+}
+
 QString Dialogue::nothingLeft()
 {
     const QString problem = server.silence();
+    if (problem.isEmpty() && !fakes.logins.events.isEmpty())
+        return u"more was said about logins: "_s + fakes.logins.events.join(u"; ");
     if (problem.isEmpty() && !m_events.isEmpty())
         return u"the engine heard more: "_s + m_events.join(u"; ");
     return problem;

@@ -309,7 +309,8 @@ void TestClient::fullHostName()
 {
     FakeServer server;
     const FakeClock clock;
-    SmtpClient client(clock, {}, u"pc.example.org"_s);
+    ClientFakes fakes;
+    SmtpClient client(clock, fakes.surroundings({}, {}, u"pc.example.org"_s));
     client.Server = u"127.0.0.1"_s;
     client.Port = server.port();
     client.Connect();

@@ -1,5 +1,6 @@
 #include "smtp/TestContract.h"
 
+#include "smtp/ClientFakes.h"
 #include "smtp/ObligingServer.h"
 #include "smtp/client/SmtpClient.h"
 #include "support/FakeServer.h"
@@ -70,16 +71,17 @@ struct FakeSubject : Subject
 struct RealSubject : Subject
 {
     FakeClock clock;
+    ClientFakes fakes;
     ObligingServer server;
 
     RealSubject()
     {
-        smtp = std::make_unique<SmtpClient>(clock);
+        smtp = std::make_unique<SmtpClient>(clock, fakes.surroundings());
         smtp->Server = u"127.0.0.1"_s;
         smtp->Port = server.serverPort();
         listen();
     }
-    ~RealSubject() override { smtp.reset(); } // it holds the clock
+    ~RealSubject() override { smtp.reset(); } // it holds the clock and the fakes
 };
 
 void bothClients()

@@ -1,10 +1,13 @@
 #include "smtp/TestClient.h"
 #include "smtp/TestContract.h"
 #include "smtp/TestDialogue.h"
+#include "smtp/TestEncryption.h"
 #include "smtp/TestHeaders.h"
+#include "smtp/TestLogin.h"
 #include "smtp/TestMailAddress.h"
 #include "smtp/TestMime.h"
 #include "smtp/TestMishaps.h"
+#include "smtp/TestProbe.h"
 #include "smtp/TestReplyReader.h"
 #include "smtp/TestTransaction.h"
 
@@ -28,5 +31,6 @@ int main(int argc, char **argv)
 {
     const QCoreApplication app(argc, argv);
     return runAll<TestReplyReader, TestMailAddress, TestTransaction, TestHeaders, TestMime,
-                  TestContract, TestClient, TestDialogue, TestMishaps>(argc, argv);
+                  TestContract, TestClient, TestDialogue, TestMishaps, TestEncryption, TestLogin,
+                  TestProbe>(argc, argv);
 }

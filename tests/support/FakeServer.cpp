@@ -1,8 +1,12 @@
 #include "support/FakeServer.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QFile>
 #include <QHostAddress>
-#include <QTcpSocket>
+#include <QSslCertificate>
+#include <QSslKey>
+#include <QSslSocket>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -21,6 +25,16 @@ QString quoted(const QByteArray &bytes)
 }
 
 } // namespace
+
+void TlsListener::incomingConnection(qintptr descriptor)
+{
+    auto *socket = new QSslSocket(this);
+    socket->setSocketDescriptor(descriptor);
+    socket->setSslConfiguration(tls);
+    if (encryptsAtOnce)
+        socket->startServerEncryption();
+    addPendingConnection(socket);
+}
 
 FakeServer::FakeServer()
 {
@@ -58,7 +72,7 @@ QString FakeServer::takeConnection()
         return u"the client said, before it connected anew: "_s + quoted(m_heard);
     if (!waitUntil([this] { return m_server.hasPendingConnections(); }))
         return u"the client does not connect"_s;
-    m_connection = m_server.nextPendingConnection();
+    m_connection = static_cast<QSslSocket *>(m_server.nextPendingConnection());
     m_connection->setSocketOption(QAbstractSocket::LowDelayOption, 1); // see settle
     ++m_connectionCount;
     const auto read = [this, socket = m_connection] {
@@ -69,8 +83,8 @@ QString FakeServer::takeConnection()
         if (socket == m_connection)
             (m_heard += socket->readAll()) += Closed;
     };
-    QObject::connect(m_connection, &QTcpSocket::readyRead, m_connection, read);
-    QObject::connect(m_connection, &QTcpSocket::disconnected, m_connection, close);
+    QObject::connect(m_connection, &QSslSocket::readyRead, m_connection, read);
+    QObject::connect(m_connection, &QSslSocket::disconnected, m_connection, close);
     read();
     return {};
 }
@@ -106,4 +120,63 @@ void FakeServer::close()
     m_connection->disconnect();
     m_connection->disconnectFromHost();
     m_connection = nullptr;
+}
+
+void FakeServer::useCertificate(const QString &path)
+{
+    QFile key(path + u".key"_s);
+    if (!key.open(QIODevice::ReadOnly))
+        qFatal("the key of a test's certificate cannot be read");
+    m_server.tls = QSslConfiguration::defaultConfiguration();
+    m_server.tls.setLocalCertificateChain(QSslCertificate::fromPath(path + u".pem"_s));
+    m_server.tls.setPrivateKey(QSslKey(&key, QSsl::Ec));
+}
+
+void FakeServer::encrypt(const QByteArray &lastWords)
+{
+    say(lastWords);
+    m_connection->setSslConfiguration(m_server.tls);
+    m_connection->startServerEncryption();
+}
+
+QString FakeServer::awaitEncryption()
+{
+    const auto isOver = [this] {
+        return m_connection->isEncrypted() ||
+               m_connection->state() != QAbstractSocket::ConnectedState;
+    };
+    return waitUntil(isOver) && m_connection->isEncrypted()
+               ? QString()
+               : u"the encryption does not come about: "_s + m_connection->errorString();
+}
+
+void FakeServer::useOldTlsOnly()
+{
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    m_server.tls.setProtocol(QSsl::TlsV1_1);
+    QT_WARNING_POP
+}
+
+QString FakeServer::hearGarbageAndEnd(const QByteArray &words)
+{
+    if (!waitUntil([this] { return !m_heard.isEmpty(); }))
+        return u"the client says nothing"_s;
+    say(words);
+    if (!waitUntil([this] { return m_heard.endsWith(Closed); }))
+        return u"the client does not close the connection"_s;
+    m_heard.clear();
+    return {};
+}
+
+QByteArray FakeServer::fingerprint() const
+{
+    return m_server.tls.localCertificate().digest(QCryptographicHash::Sha256);
+}
+
+quint16 FakeServer::closedPort()
+{
+    QTcpServer server;
+    server.listen(QHostAddress::LocalHost);
+    return server.serverPort();
 }

@@ -1,13 +1,25 @@
 #pragma once
 
 #include <QByteArray>
+#include <QSslConfiguration>
 #include <QString>
 #include <QTcpServer>
 
 #include <chrono>
 #include <functional>
 
-class QTcpSocket;
+class QSslSocket;
+
+/// Listens, and makes connections that can be encrypted.
+class TlsListener : public QTcpServer
+{
+public:
+    QSslConfiguration tls;       ///< with the server's certificate and key
+    bool encryptsAtOnce = false; ///< TLS from the first byte
+
+protected:
+    void incomingConnection(qintptr descriptor) override;
+};
 
 /// A server on a free port of this machine that does what the test says, with three verbs: it says
 /// something, the client must say something, nobody says anything. Closing a connection leaves a
@@ -40,14 +52,31 @@ public:
     void say(const QByteArray &bytes);
     void close();
 
+    /// From now on the server shows that certificate: `path` and ".pem", its key `path` and ".key".
+    void useCertificate(const QString &path);
+    /// SHA-256 of that certificate.
+    [[nodiscard]] QByteArray fingerprint() const;
+    /// A port on which nobody listens.
+    [[nodiscard]] static quint16 closedPort();
+    /// Offers nothing newer than TLS 1.1.
+    void useOldTlsOnly();
+    /// The client says anything at all, is told that, and closes the connection.
+    [[nodiscard]] QString hearGarbageAndEnd(const QByteArray &words);
+    /// Connections to come are encrypted from the first byte.
+    void encryptAtOnce() { m_server.encryptsAtOnce = true; }
+    /// Says that, and takes what comes next for the client's side of a TLS handshake.
+    void encrypt(const QByteArray &lastWords);
+    /// The handshake succeeds.
+    [[nodiscard]] QString awaitEncryption();
+
     /// Lets client and server do all that they can do without waiting for a timer.
     static void settle();
     /// Runs the event loop until it is true; false when it does not become so.
     [[nodiscard]] static bool waitUntil(const std::function<bool()> &isTrue);
 
 private:
-    QTcpServer m_server;
-    QTcpSocket *m_connection = nullptr;
+    TlsListener m_server;
+    QSslSocket *m_connection = nullptr;
     QByteArray m_heard; ///< what the client said and the script has not yet asked for
     int m_connectionCount = 0;
 };

@@ -46,7 +46,8 @@ qsizetype firstLineLength(const QByteArray &lines)
     return end < 0 ? lines.size() : end;
 }
 
-/// Servers write UTF-8 (RFC 6531) or what their machine writes; control characters become blanks.
+} // namespace
+
 QString printable(QByteArrayView bytes)
 {
     QString text = bytes.isValidUtf8() ? QString::fromUtf8(bytes) : QString::fromLatin1(bytes);
@@ -54,8 +55,6 @@ QString printable(QByteArrayView bytes)
         text, [](QChar c) { return c.category() == QChar::Other_Control; }, u' ');
     return text;
 }
-
-} // namespace
 
 ServerReply WireReply::toServerReply(SmtpVerb verb) const
 {
@@ -116,4 +115,11 @@ tl::expected<std::optional<WireReply>, QString> ReplyReader::next()
     }
     m_input.remove(0, read);
     return whole;
+}
+
+void ReplyReader::clear()
+{
+    m_input.clear();
+    m_reply = {};
+    m_lineCount = 0;
 }

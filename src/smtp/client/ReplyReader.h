@@ -9,6 +9,9 @@
 
 #include <optional>
 
+/// A server's words: UTF-8 (RFC 6531) or what its machine writes; control characters become blanks.
+[[nodiscard]] QString printable(QByteArrayView bytes);
+
 /// A reply as it came: all lines without the codes, joined by LF.
 struct WireReply
 {
@@ -30,6 +33,8 @@ public:
     /// The next whole reply; none when more bytes are needed. An error, in plain words, when the
     /// bytes are no reply: nothing more can be read then.
     [[nodiscard]] tl::expected<std::optional<WireReply>, QString> next();
+    /// Forgets what is left, for another connection.
+    void clear();
     /// Nothing is left, not even a part of a reply.
     [[nodiscard]] bool isEmpty() const { return m_input.isEmpty() && m_lineCount == 0; }
 

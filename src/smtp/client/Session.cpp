@@ -1,8 +1,10 @@
+// One connection: its socket, its limits, its end, and a message in it. How it becomes ready is in
+// SessionOpening.cpp.
+
 #include "smtp/client/Session.h"
 
-#include "smtp/client/HostName.h"
+#include "smtp/client/LoginRefusal.h"
 
-#include <QHostAddress>
 #include <QLoggingCategory>
 #include <QNetworkProxy>
 
@@ -12,51 +14,52 @@ using namespace Qt::StringLiterals;
 
 Q_LOGGING_CATEGORY(sessionTrace, "sorvanta.smtp.session", QtInfoMsg)
 
-namespace {
-
-/// A server's refusal in plain words.
-QString refusal(const WireReply &reply)
-{
-    return u"the server refuses: "_s + reply.toServerReply(SmtpVerb::None).toText();
-}
-
-} // namespace
-
-Session::Session(const Limits &limits, QString hostName, QObject *parent)
+Session::Session(const ClientSurroundings &from, QObject *parent)
     : QObject(parent),
-      m_limits(limits),
-      m_hostName(std::move(hostName)),
+      m_from(from),
       m_watchdog([this] { onLimit(); }),
-      m_reader(limits)
+      m_reader(from.limits),
+      m_trace(from.trace)
 {
-    connect(&m_socket, &QTcpSocket::connected, this, &Session::onConnected);
-    connect(&m_socket, &QTcpSocket::readyRead, this, &Session::onReadyRead);
-    connect(&m_socket, &QTcpSocket::errorOccurred, this, &Session::onSocketError);
-    connect(&m_socket, &QTcpSocket::bytesWritten, this, &Session::onBytesWritten);
+    connect(&m_socket, &QSslSocket::hostFound, this, [this] { reach(ServerStep::Found); });
+    connect(&m_socket, &QSslSocket::connected, this, &Session::onConnected);
+    connect(&m_socket, &QSslSocket::readyRead, this, &Session::onReadyRead);
+    connect(&m_socket, &QSslSocket::errorOccurred, this, &Session::onSocketError);
+    connect(&m_socket, &QSslSocket::bytesWritten, this, &Session::onBytesWritten);
+    connect(&m_socket, &QSslSocket::encryptedBytesWritten, this, &Session::moveLimit);
+    connect(&m_socket, &QSslSocket::sslErrors, this, &Session::onSslErrors);
+    connect(&m_socket, &QSslSocket::encrypted, this, &Session::onEncrypted);
 }
 
 void Session::enter(Phase phase, const QString &reason)
 {
-    qCDebug(sessionTrace).noquote() << m_targetName << m_phase << "->" << phase << ':' << reason;
+    qCDebug(sessionTrace).noquote()
+        << m_server.toText() << m_phase << "->" << phase << ':' << m_trace.secrets.hide(reason);
     m_phase = phase;
 }
 
-void Session::open(const ServerAddress &target, bool mayChunk)
+void Session::open(const ServerAddress &server, const Experience &experience)
 {
-    m_targetName = target.toText();
-    m_mayChunk = mayChunk;
-    enter(Phase::Connecting, u"a session is wanted"_s);
-    m_watchdog.start(m_limits.opening);
-    m_socket.setProxy(QNetworkProxy::NoProxy);
-    m_socket.connectToHost(target.host, target.port);
+    m_server = server;
+    m_experience = experience;
+    m_account = m_from.accounts.account(server.host);
+    m_trace.begin(server);
+    connectToServer();
 }
 
-void Session::onConnected()
+void Session::connectToServer()
 {
-    // The data of one message are written in several pieces: they must not wait for each other's
-    // acknowledgement.
-    m_socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
-    enter(Phase::Greeting, u"connected"_s);
+    m_report = {};
+    m_report.server = m_server;
+    m_extensions = {};
+    m_reader.clear();
+    m_unwritten = 0;
+    m_needsReset = false;
+    enter(Phase::Connecting, u"a session is wanted"_s);
+    m_trace.note(u"connecting"_s);
+    m_watchdog.start(m_from.limits.opening);
+    m_socket.setProxy(QNetworkProxy::NoProxy);
+    m_socket.connectToHost(m_server.host, m_server.port);
 }
 
 void Session::onReadyRead()
@@ -69,12 +72,12 @@ void Session::onReadyRead()
 void Session::readReplies()
 {
     char buffer[4096];
-    while (m_phase != Phase::Off) {
+    while (isListening()) {
         const qint64 count = m_socket.read(buffer, sizeof buffer);
         if (count <= 0)
             break;
         m_reader.feed(QByteArrayView(buffer, count));
-        while (m_phase != Phase::Off) {
+        while (isListening()) {
             const auto reply = m_reader.next();
             if (!reply)
                 fail(SmtpErrorNumber::Unreadable, reply.error());
@@ -88,16 +91,25 @@ void Session::readReplies()
 
 void Session::takeReply(const WireReply &reply)
 {
+    m_trace.reply(reply);
     switch (m_phase) {
     case Phase::Greeting:
-        if (reply.code == 220)
-            hello(Phase::Ehlo, u"greeted"_s);
-        else
-            fail(SmtpErrorNumber::ServerRefuses, refusal(reply));
+        takeGreeting(reply);
         break;
     case Phase::Ehlo:
     case Phase::Helo:
         takeHelloReply(reply);
+        break;
+    case Phase::StartTls:
+        if (reply.code == 220)
+            beginTls();
+        else
+            fail(SmtpErrorNumber::CannotEncrypt,
+                 u"the server does not begin the encryption that it offers: "_s +
+                     reply.toServerReply(SmtpVerb::StartTls).toText());
+        break;
+    case Phase::Auth:
+        takeAuthReply(reply);
         break;
     case Phase::Mail:
         if (!m_transaction->take(reply))
@@ -108,8 +120,12 @@ void Session::takeReply(const WireReply &reply)
     case Phase::Quit:
         fail(SmtpErrorNumber::Closed, u"the session is over"_s);
         break;
+    case Phase::Login: // it does not want to wait; the connection is made anew with the login
+        dropConnection();
+        break;
     case Phase::Connecting:
     case Phase::Ready: // nobody asked: the server is about to close, or out of step
+    case Phase::Tls:
     case Phase::Off:
         fail(SmtpErrorNumber::Closed,
              u"the server ends the session: "_s + reply.toServerReply(SmtpVerb::None).toText());
@@ -117,54 +133,38 @@ void Session::takeReply(const WireReply &reply)
     }
 }
 
-void Session::hello(Phase phase, const QString &reason)
-{
-    enter(phase, reason);
-    write((phase == Phase::Ehlo ? "EHLO " : "HELO ") +
-          ehloName(m_hostName, m_socket.localAddress()) + "\r\n");
-}
-
-void Session::takeHelloReply(const WireReply &reply)
-{
-    if (reply.code / 100 == 2) {
-        if (m_phase == Phase::Ehlo)
-            m_extensions = Extensions::fromEhlo(reply.lines);
-        m_extensions.chunking = m_extensions.chunking && m_mayChunk;
-        becomeReady(u"the server is willing"_s);
-    } else if (m_phase == Phase::Ehlo && reply.code != 421) {
-        hello(Phase::Helo, u"EHLO is refused"_s); // RFC 5321, section 4.1.4
-    } else {
-        fail(SmtpErrorNumber::ServerRefuses, refusal(reply));
-    }
-}
-
-void Session::becomeReady(const QString &reason)
-{
-    enter(Phase::Ready, reason);
-    m_hasNews = true;
-}
-
 void Session::send(const Letter &letter)
 {
-    m_transaction.emplace(letter, m_extensions, m_needsReset);
-    enter(Phase::Mail, u"a message is handed over"_s);
-    pump();
+    begin(letter);
     moveLimit();
     report();
 }
 
+void Session::begin(const Letter &letter)
+{
+    m_transaction.emplace(letter, m_extensions, m_needsReset);
+    enter(Phase::Mail, u"a message is handed over"_s);
+    pump();
+}
+
 void Session::pump()
 {
-    const QList<QByteArray> pieces = m_transaction->takeBytes();
-    if (!pieces.isEmpty()) {
-        for (const QByteArray &piece : pieces) {
-            m_unwritten += piece.size();
-            m_socket.write(piece);
-        }
+    const Outgoing outgoing = m_transaction->takeBytes();
+    m_trace.commands(outgoing.commands);
+    qint64 contentSize = 0;
+    for (const QByteArray &piece : outgoing.content)
+        contentSize += piece.size();
+    if (contentSize > 0)
+        m_trace.client(u"(the message, %1 bytes)"_s.arg(contentSize));
+    m_unwritten += outgoing.commands.size() + contentSize;
+    if (!outgoing.commands.isEmpty())
+        m_socket.write(outgoing.commands);
+    for (const QByteArray &piece : outgoing.content)
+        m_socket.write(piece);
+    if (!outgoing.commands.isEmpty() || contentSize > 0)
         m_socket.flush(); // all pieces at once, without a turn of the event loop
-    }
     // A failure inside flush has settled the message already.
-    if (m_transaction && m_transaction->isSettled()) {
+    if (m_transaction && m_transaction->isSettled() && !holdForLogin()) {
         const QString reason = m_transaction->reasonToEnd();
         settle();
         if (reason.isEmpty())
@@ -172,6 +172,29 @@ void Session::pump()
         else
             fail(SmtpErrorNumber::Closed, reason);
     }
+}
+
+/// A message that was refused because nobody is logged in is handed over again after a login. True
+/// when it is held, or when the session has failed over it.
+bool Session::holdForLogin()
+{
+    const ServerReply wish = m_transaction->loginWish();
+    const bool isLoggedIn = m_report.login == LoginState::Accepted;
+    if (wish.isEmpty() || m_transaction->outcome() != Transaction::Outcome::Refused ||
+        !m_transaction->reasonToEnd().isEmpty())
+        return false;
+    const LoginRefusal meaning = LoginRefusal::of(wish);
+    if (isLoggedIn ? !meaning.isFinal : m_extensions.authMechanisms.isEmpty() && wish.code != 530)
+        return false;
+    m_heldLetter = m_transaction->letter();
+    m_transaction.reset();
+    m_needsReset = true;
+    m_experience.wantsLogin = true;
+    if (isLoggedIn || m_extensions.authMechanisms.isEmpty())
+        fail(SmtpErrorNumber::LoginFailed, meaning.text);
+    else
+        logIn();
+    return true;
 }
 
 void Session::settle()
@@ -187,29 +210,40 @@ void Session::fail(SmtpErrorNumber number, const QString &reason)
 {
     if (m_phase == Phase::Off)
         return;
-    m_fault = {number, reason};
+    m_fault = {number, m_trace.secrets.hide(reason)};
     if (m_transaction) {
         const QString farewell = m_transaction->reasonToEnd();
         if (!farewell.isEmpty())
             m_fault.reason = farewell;
-        m_transaction->cut(m_unwritten == 0);
+        m_transaction->cut(isAllWritten());
         settle();
     }
     const bool isQuitting = m_phase == Phase::Quit;
-    enter(Phase::Off, reason);
+    enter(Phase::Off, m_fault.reason);
+    m_trace.note(m_fault.reason);
+    m_report.failure = m_fault.reason;
+    m_report.failureNumber = number;
     m_hasNews = true;
-    m_watchdog.stop();
-    m_socket.abort();
+    dropConnection();
     if (isQuitting)
         deleteLater();
 }
 
+void Session::dropConnection()
+{
+    m_watchdog.stop();
+    m_exchange.reset();
+    if (m_phase != Phase::Login)
+        ++m_loginSearch; // nobody waits for its answer any more
+    m_socket.abort();
+}
+
 void Session::quit()
 {
-    disconnect(this, &Session::reported, nullptr, nullptr);
+    disconnect(this, nullptr, nullptr, nullptr);
     if (m_phase == Phase::Ready) {
         enter(Phase::Quit, u"the session is no longer wanted"_s);
-        m_watchdog.start(m_limits.quit);
+        m_watchdog.start(m_from.limits.quit);
         write("QUIT\r\n"_qba);
     } else {
         fail(SmtpErrorNumber::Closed, u"the session is no longer wanted"_s);
@@ -233,10 +267,25 @@ void Session::onBytesWritten(qint64 count)
 void Session::onSocketError()
 {
     readReplies(); // what came before the end still counts
-    fail(m_phase == Phase::Connecting ? SmtpErrorNumber::CannotConnect : SmtpErrorNumber::Closed,
-         m_phase == Phase::Connecting || m_socket.error() != QAbstractSocket::RemoteHostClosedError
-             ? u"the connection failed: "_s + m_socket.errorString()
-             : u"the server closed the connection"_s);
+    if (m_phase == Phase::Login) {
+        // It may take somebody longer to find a password than a server waits: the connection is
+        // made anew with it.
+        dropConnection();
+        return;
+    }
+    const bool isSilent = m_socket.error() == QAbstractSocket::RemoteHostClosedError;
+    const QString reason = m_socket.errorString();
+    const bool isRefusal = m_report.certificate &&
+                           m_report.certificate->standing == ServerCertificate::Standing::Refused;
+    if (m_phase == Phase::Tls && isRefusal)
+        refuseCertificate();
+    else if (m_phase == Phase::Tls)
+        fail(SmtpErrorNumber::CannotEncrypt, u"encryption did not come about: "_s + reason);
+    else if (m_phase == Phase::Connecting)
+        fail(SmtpErrorNumber::CannotConnect, u"the connection failed: "_s + reason);
+    else
+        fail(SmtpErrorNumber::Closed, isSilent ? u"the server closed the connection"_s
+                                               : u"the connection failed: "_s + reason);
     report();
 }
 
@@ -252,17 +301,21 @@ void Session::moveLimit()
     switch (m_phase) {
     case Phase::Ehlo:
     case Phase::Helo:
-        m_watchdog.start(m_limits.hello);
+    case Phase::StartTls:
+    case Phase::Auth:
+        m_watchdog.start(m_from.limits.hello);
         break;
     case Phase::Mail:
-        m_watchdog.start(m_unwritten > 0 ? m_limits.dataBlock
-                                         : m_limits.forReplyTo(m_transaction->awaited()));
+        m_watchdog.start(isAllWritten() ? m_from.limits.forReplyTo(m_transaction->awaited())
+                                        : m_from.limits.dataBlock);
         break;
+    case Phase::Login: // for as long as a person takes
     case Phase::Ready:
         m_watchdog.stop();
         break;
     case Phase::Off:
     case Phase::Connecting:
+    case Phase::Tls:
     case Phase::Greeting:
     case Phase::Quit:
         break;

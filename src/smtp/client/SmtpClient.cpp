@@ -8,9 +8,8 @@ using namespace Qt::StringLiterals;
 
 Q_LOGGING_CATEGORY(clientTrace, "sorvanta.smtp.client", QtInfoMsg)
 
-SmtpClient::SmtpClient(const Clock &clock, const Limits &limits, const QString &hostName,
-                       QObject *parent)
-    : Smtp(parent), m_limits(limits), m_hostName(hostName), m_builder(clock)
+SmtpClient::SmtpClient(const Clock &clock, const ClientSurroundings &from, QObject *parent)
+    : Smtp(parent), m_from(from), m_builder(clock)
 {}
 
 qint32 SmtpClient::StatusFlag() const
@@ -99,7 +98,7 @@ void SmtpClient::endSession()
     m_isWanted = false;
     m_waiting.reset();
     std::erase_if(m_events, [](const Event &event) {
-        return event.kind == Event::Kind::Ready ||
+        return event.kind == Event::Kind::Ready || event.kind == Event::Kind::LoginAwaited ||
                (event.kind == Event::Kind::Error && !event.settlesMessage);
     });
     if (!m_inFlight)
@@ -131,15 +130,19 @@ void SmtpClient::openWaiting()
 void SmtpClient::openSession()
 {
     m_wasReady = false;
-    m_session = new Session(m_limits, m_hostName, this);
+    m_session = new Session(m_from, this);
     connect(m_session, &Session::reported, this, &SmtpClient::onReported);
-    m_session->open(m_target, !m_withoutChunking.contains(m_target.toText()));
+    connect(m_session, &Session::loginAwaited, this, &SmtpClient::onLoginAwaited);
+    m_session->open(m_target, m_experiences.value(m_target.toText()));
 }
 
 void SmtpClient::onReported(const std::optional<Settlement> &settlement)
 {
     const bool hasEnded = m_session->phase() == Session::Phase::Off;
     const SessionFault fault = m_session->fault();
+    if (m_session->wantsLogin())
+        m_experiences[m_target.toText()].wantsLogin = true;
+    const auto certificate = m_session->description().certificate;
     if (hasEnded)
         closeSession();
     if (settlement) {
@@ -150,13 +153,15 @@ void SmtpClient::onReported(const std::optional<Settlement> &settlement)
             m_session->send(m_inFlight->letter);
         else
             m_events.push_back({});
-    } else if (!m_wasReady) {
+    } else if (!m_wasReady || m_inFlight) { // a message in flight was held for a login
         const QString reason = m_target.toText() + u": "_s + fault.reason;
         if (m_inFlight && m_inFlight->wasHandedOverBefore)
             raiseError(SmtpErrorNumber::NotTaken, reason + u" (the message was not taken before)"_s,
                        false, m_inFlight->replies);
         else
             raiseError(fault.number, reason);
+        if (fault.number == SmtpErrorNumber::CertificateRefused)
+            m_events.back().refusedCertificate = certificate;
     }
     // Else the server has ended a session in which nothing was going on: the next Send opens
     // another one.
@@ -168,7 +173,7 @@ void SmtpClient::settled(const Settlement &settlement, const SessionFault &fault
 {
     using Outcome = Transaction::Outcome;
     if (settlement.chunkingFailed)
-        m_withoutChunking += m_target.toText();
+        m_experiences[m_target.toText()].mayChunk = false;
     switch (settlement.outcome) {
     case Outcome::Accepted:
     case Outcome::Refused:
@@ -193,6 +198,16 @@ void SmtpClient::settled(const Settlement &settlement, const SessionFault &fault
                    true, settlement.replies);
         break;
     }
+}
+
+void SmtpClient::onLoginAwaited(bool waits)
+{
+    Event event;
+    event.kind = Event::Kind::LoginAwaited;
+    event.waits = waits;
+    m_events.push_back(std::move(event));
+    if (m_calls == 0)
+        postDrain();
 }
 
 void SmtpClient::finishMessage(bool sent, const QList<ServerReply> &replies)
@@ -270,9 +285,14 @@ void SmtpClient::deliver(const Event &event)
     case Event::Kind::Error:
         m_lastReplies = event.replies;
         m_mayHaveBeenAccepted = event.mayHaveBeenAccepted;
+        m_refusedCertificate = event.refusedCertificate;
         Q_EMIT SmtpError(static_cast<qint32>(event.fault.number), event.fault.reason);
         m_lastReplies.clear();
         m_mayHaveBeenAccepted = true;
+        m_refusedCertificate.reset();
+        break;
+    case Event::Kind::LoginAwaited:
+        Q_EMIT LoginAwaited(event.waits);
         break;
     }
 }

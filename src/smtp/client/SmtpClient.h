@@ -5,7 +5,7 @@
 #include "smtp/client/LetterBuilder.h"
 #include "smtp/client/Session.h"
 
-#include <QSet>
+#include <QHash>
 
 #include <deque>
 #include <optional>
@@ -17,9 +17,7 @@ class SmtpClient final : public Smtp, public MessageComposer
     Q_OBJECT
 
 public:
-    /// `hostName`: the full name of this machine for EHLO; empty when it has none.
-    explicit SmtpClient(const Clock &clock, const Limits &limits = {}, const QString &hostName = {},
-                        QObject *parent = nullptr);
+    SmtpClient(const Clock &clock, const ClientSurroundings &from, QObject *parent = nullptr);
 
     [[nodiscard]] qint32 StatusFlag() const override;
     void Reset() override;
@@ -30,6 +28,10 @@ public:
     void Disconnect() override;
     [[nodiscard]] QList<ServerReply> lastReplies() const override { return m_lastReplies; }
     [[nodiscard]] bool mayHaveBeenAccepted() const override { return m_mayHaveBeenAccepted; }
+    [[nodiscard]] std::optional<ServerCertificate> refusedCertificate() const override
+    {
+        return m_refusedCertificate;
+    }
 
     [[nodiscard]] tl::expected<QByteArray, QString> compose() override;
 
@@ -37,7 +39,7 @@ private:
     /// Something that the engine is to be told.
     struct Event
     {
-        enum class Kind { Ready, Done, Error };
+        enum class Kind { Ready, Done, Error, LoginAwaited };
 
         Kind kind = Kind::Ready;
         bool sent = false;           ///< of Done
@@ -45,6 +47,8 @@ private:
         bool settlesMessage = false; ///< of Error
         bool mayHaveBeenAccepted = false;
         QList<ServerReply> replies;
+        std::optional<ServerCertificate> refusedCertificate; ///< of Error
+        bool waits = false;                                  ///< of LoginAwaited
     };
     /// The message between Send and its result.
     struct InFlight
@@ -83,6 +87,7 @@ private:
     void endSession();
     void onReported(const std::optional<Settlement> &settlement);
     void settled(const Settlement &settlement, const SessionFault &fault);
+    void onLoginAwaited(bool waits);
     void finishMessage(bool sent, const QList<ServerReply> &replies);
     void raiseError(SmtpErrorNumber number, const QString &description,
                     bool mayHaveBeenAccepted = false, const QList<ServerReply> &replies = {});
@@ -92,24 +97,24 @@ private:
     void drain();
     void deliver(const Event &event);
 
-    const Limits m_limits;
-    const QString m_hostName;
+    const ClientSurroundings m_from;
     LetterBuilder m_builder;
     QStringList m_attachments;
 
     /// Connect was called, and since then neither Reset nor Disconnect nor an error came: the
     /// engine may send.
     bool m_isWanted = false;
-    ServerAddress m_target;          ///< of the present session, or of the last one
+    ServerAddress m_target;       ///< of the present session, or of the last one
     Session *m_session = nullptr; ///< none while the server has ended it
     bool m_wasReady = false;      ///< the present session
     std::optional<InFlight> m_inFlight;
-    std::optional<Wish> m_waiting;   ///< a Connect behind the message in flight
-    QSet<QString> m_withoutChunking; ///< servers that announce CHUNKING and do not know BDAT
+    std::optional<Wish> m_waiting;            ///< a Connect behind the message in flight
+    QHash<QString, Experience> m_experiences; ///< by "host:port"
 
     std::deque<Event> m_events;
     int m_calls = 0; ///< calls of the engine in progress
     bool m_isDrainPosted = false;
     QList<ServerReply> m_lastReplies;
     bool m_mayHaveBeenAccepted = true;
+    std::optional<ServerCertificate> m_refusedCertificate;
 };

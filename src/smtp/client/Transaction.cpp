@@ -17,6 +17,13 @@ bool fits(SmtpVerb verb, const WireReply &reply)
     return verb == SmtpVerb::Data ? reply.code / 100 != 2 : reply.code / 100 != 3;
 }
 
+/// RFC 4954, section 6; some servers have the general refusal of a sender instead.
+bool asksForLogin(SmtpVerb verb, const WireReply &reply)
+{
+    return reply.code == 530 || (verb == SmtpVerb::Mail && reply.code == 550 &&
+                                 reply.toServerReply(verb).enhanced.startsWith(u"5.7."));
+}
+
 } // namespace
 
 Transaction::Transaction(const Letter &letter, const Extensions &extensions, bool needsReset)
@@ -105,28 +112,26 @@ QByteArray Transaction::commandLine(const Command &command) const
     }
 }
 
-QList<QByteArray> Transaction::takeBytes()
+Outgoing Transaction::takeBytes()
 {
-    QByteArray commands;
+    Outgoing outgoing;
     bool contentFollows = false;
     while (!m_toWrite.isEmpty() && (m_extensions.pipelining || m_awaited.isEmpty())) {
         const Command command = m_toWrite.takeFirst();
         m_awaited += command;
-        commands += commandLine(command);
+        outgoing.commands += commandLine(command);
         contentFollows = command.verb == SmtpVerb::Bdat || command.verb == SmtpVerb::Content;
     }
-    QList<QByteArray> pieces;
-    if (!commands.isEmpty())
-        pieces += commands;
     if (contentFollows) {
         m_contentTaken = true;
-        appendContent(pieces);
+        outgoing.content = content();
     }
-    return pieces;
+    return outgoing;
 }
 
-void Transaction::appendContent(QList<QByteArray> &pieces) const
+QList<QByteArray> Transaction::content() const
 {
+    QList<QByteArray> pieces;
     const bool isData = m_awaited.constLast().verb == SmtpVerb::Content;
     // RFC 2920, section 3.1: a server may say 354 although it refused every recipient; the message
     // ends without a line then.
@@ -136,6 +141,7 @@ void Transaction::appendContent(QList<QByteArray> &pieces) const
     }
     if (isData)
         pieces += ".\r\n"_qba;
+    return pieces;
 }
 
 SmtpVerb Transaction::awaited() const
@@ -160,6 +166,8 @@ bool Transaction::take(const WireReply &reply)
 void Transaction::takeEnvelopeReply(const Command &command, const WireReply &reply)
 {
     const bool positive = isPositive(reply);
+    if (asksForLogin(command.verb, reply) && m_loginWish.isEmpty())
+        m_loginWish = reply.toServerReply(command.verb);
     if (command.verb == SmtpVerb::Rcpt) {
         --m_recipientsLeft;
         if (positive)

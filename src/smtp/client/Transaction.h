@@ -6,6 +6,13 @@
 
 #include <QList>
 
+/// What a client writes at once: commands, and behind them a message's content.
+struct Outgoing
+{
+    QByteArray commands;
+    QList<QByteArray> content;
+};
+
 /// One message in the dialogue: which bytes to write next, which reply belongs to which command,
 /// what became of the message. Knows no socket and no clock.
 class Transaction
@@ -23,7 +30,7 @@ public:
     Transaction(const Letter &letter, const Extensions &extensions, bool needsReset);
 
     /// The bytes to write now; empty while replies have to come first.
-    [[nodiscard]] QList<QByteArray> takeBytes();
+    [[nodiscard]] Outgoing takeBytes();
     /// The command whose reply comes next, None when none is due.
     [[nodiscard]] SmtpVerb awaited() const;
     /// The reply to the command in front. False when that command has no such reply: the dialogue
@@ -41,6 +48,10 @@ public:
     /// Why the session has to end with this message, in plain words: the server said 421, or may
     /// take the message for commands. Empty when it can go on.
     [[nodiscard]] QString reasonToEnd() const;
+    /// The reply that refused the message because nobody is logged in; empty when it was anything
+    /// else.
+    [[nodiscard]] ServerReply loginWish() const { return m_loginWish; }
+    [[nodiscard]] const Letter &letter() const { return m_letter; }
     /// The server announced CHUNKING and does not know BDAT.
     [[nodiscard]] bool chunkingFailed() const { return m_chunkingFailed; }
 
@@ -54,7 +65,7 @@ private:
     [[nodiscard]] bool refusedHere();
     void refuseHere(const QString &reason);
     [[nodiscard]] QByteArray commandLine(const Command &command) const;
-    void appendContent(QList<QByteArray> &pieces) const;
+    [[nodiscard]] QList<QByteArray> content() const;
     void takeEnvelopeReply(const Command &command, const WireReply &reply);
     void takeFinalReply(const Command &command, const WireReply &reply);
     void decide(Outcome outcome);
@@ -70,6 +81,7 @@ private:
 
     Outcome m_outcome = Outcome::Open;
     ServerReply m_farewell; ///< the server's 421
+    ServerReply m_loginWish;
     bool m_chunkingFailed = false;
     bool m_mailAccepted = false;
     qsizetype m_recipientsLeft = 0; ///< RCPT still to be answered

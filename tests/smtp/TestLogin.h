@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QObject>
+
+/// Who logs in when, how, and what a refusal leads to.
+class TestLogin : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void dialogue_data();
+    void dialogue();
+    void noPasswordOnALineThatOthersCanRead();
+    void refusalInPlainWords_data();
+    void refusalInPlainWords();
+    void unverifiedCertificateGetsNoPassword();
+    void resetDropsTheQuestion();
+    void messageHeldForALoginIsNotTakenWhenNoneIsKnown();
+    void traceHidesSecrets_data();
+    void traceHidesSecrets();
+    void errorHidesWhatTheServerRepeats();
+    void secretsInEveryForm();
+    void traceIsOffUnlessWanted();
+};
