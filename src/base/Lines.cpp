@@ -26,3 +26,24 @@ QString oneLine(QString text)
     text.replace(QLatin1String("\r\n"), QLatin1String(" "));
     return text.replace(u'\r', u' ').replace(u'\n', u' ');
 }
+
+QString withVisibleControls(QStringView text)
+{
+    QString visible;
+    visible.reserve(text.size());
+    for (const QChar c : text) {
+        switch (c.category()) {
+        case QChar::Other_Control:
+            visible += QStringLiteral("\\x%1").arg(c.unicode(), 2, 16, QChar(u'0'));
+            break;
+        case QChar::Other_Format:
+        case QChar::Separator_Line:
+        case QChar::Separator_Paragraph:
+            visible += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QChar(u'0'));
+            break;
+        default:
+            visible += c;
+        }
+    }
+    return visible;
+}

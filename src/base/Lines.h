@@ -25,3 +25,7 @@ private:
 /// The text as one line: each line end becomes a blank. What is pasted into a box for one line may
 /// hold several, and would tear the lines of a file apart.
 [[nodiscard]] QString oneLine(QString text);
+
+/// The text with its control characters made visible, as "\\x0d": what a stranger wrote cannot look
+/// like several lines, hide, or drive a terminal.
+[[nodiscard]] QString withVisibleControls(QStringView text);

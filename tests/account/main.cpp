@@ -1,8 +1,14 @@
 #include "TestAccountValues.h"
 #include "TestAccounts.h"
+#include "TestCertificateQuestion.h"
+#include "TestCommandOutput.h"
+#include "TestLoginChain.h"
+#include "TestNetrc.h"
+#include "TestTraceFile.h"
 #include "support/RunTests.h"
 
 int main(int argc, char **argv)
 {
-    return runTests<TestAccounts, TestAccountValues>(argc, argv);
+    return runTests<TestAccounts, TestAccountValues, TestNetrc, TestCommandOutput, TestLoginChain,
+                    TestTraceFile, TestCertificateQuestion>(argc, argv);
 }
