@@ -38,8 +38,6 @@ int send(const SendOptions &options, const CliSurroundings &from)
 
 int main(int argc, char **argv)
 {
-    // The GLib event loop costs several microseconds a message, and nothing here needs it.
-    qputenv("QT_NO_GLIB", "1");
     const QCoreApplication application(argc, argv);
     Output output;
     const auto command = parseCommandLine(QCoreApplication::arguments());

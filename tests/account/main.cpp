@@ -4,11 +4,12 @@
 #include "TestCommandOutput.h"
 #include "TestLoginChain.h"
 #include "TestNetrc.h"
+#include "TestSecrets.h"
 #include "TestTraceFile.h"
 #include "support/RunTests.h"
 
 int main(int argc, char **argv)
 {
     return runTests<TestAccounts, TestAccountValues, TestNetrc, TestCommandOutput, TestLoginChain,
-                    TestTraceFile, TestCertificateQuestion>(argc, argv);
+                    TestTraceFile, TestCertificateQuestion, TestSecrets>(argc, argv);
 }
