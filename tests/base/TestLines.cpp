@@ -50,3 +50,10 @@ void TestLines::severalLinesBecomeOne()
     QCOMPARE(oneLine(QStringLiteral("a\r\nb\rc\n\nd")), QStringLiteral("a b c  d"));
     QCOMPARE(oneLine(QStringLiteral("plain")), QStringLiteral("plain"));
 }
+
+void TestLines::controlCharactersBecomeVisible()
+{
+    QCOMPARE(withVisibleControls(u"a\r\n\x1b[2J\x7f\u0085\u202e\u2028z"),
+             QStringLiteral("a\\x0d\\x0a\\x1b[2J\\x7f\\x85\\u202e\\u2028z"));
+    QCOMPARE(withVisibleControls(u"Grüße, 你好 😀 \\x"), QStringLiteral("Grüße, 你好 😀 \\x"));
+}

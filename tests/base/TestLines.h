@@ -12,4 +12,5 @@ private Q_SLOTS:
     void lines();
     void lineEndsAtTheStart();
     void severalLinesBecomeOne();
+    void controlCharactersBecomeVisible();
 };

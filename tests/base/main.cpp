@@ -8,6 +8,7 @@
 #include "TestProgramFolder.h"
 #include "TestRegionalFormats.h"
 #include "TestServerReply.h"
+#include "TestTerminalLine.h"
 #include "support/RunTests.h"
 
 int main(int argc, char **argv)
@@ -15,6 +16,6 @@ int main(int argc, char **argv)
     if (TestCodePage::runAsSecondProgram(argc, argv))
         return 0;
     return runTests<TestCodePage, TestLines, TestInputFields, TestNumbers, TestModMain, TestFiles,
-                    TestProgramFolder, TestRegionalFormats, TestServerReply, TestHelpPages>(argc,
-                                                                                            argv);
+                    TestProgramFolder, TestRegionalFormats, TestServerReply, TestHelpPages,
+                    TestTerminalLine>(argc, argv);
 }
