@@ -36,7 +36,7 @@ void Output::message(const QString &line)
 
 void Output::showProgress(int done, int total, const QString &text)
 {
-    if (!m_hasTerminal)
+    if (!m_hasTerminal || m_holdsProgress)
         return;
     constexpr int Width = 30;
     const int filled = total > 0 ? std::clamp(done * Width / total, 0, Width) : 0;
@@ -55,6 +55,13 @@ void Output::clearProgress()
         return;
     put(stderr, "\r\x1b[K");
     m_showsProgress = false;
+}
+
+void Output::holdProgress(bool hold)
+{
+    if (hold)
+        clearProgress();
+    m_holdsProgress = hold;
 }
 
 bool Output::progressIsDue() const

@@ -19,6 +19,8 @@ public:
     void showProgress(int done, int total, const QString &text);
     /// Takes that line away.
     void clearProgress();
+    /// Keeps that line away while something is asked on the terminal.
+    void holdProgress(bool hold);
     /// Whether a new line of progress would be seen, or would only flicker.
     [[nodiscard]] bool progressIsDue() const;
     void flush();
@@ -26,5 +28,6 @@ public:
 private:
     bool m_hasTerminal;
     bool m_showsProgress = false;
+    bool m_holdsProgress = false;
     QElapsedTimer m_sinceProgress;
 };
