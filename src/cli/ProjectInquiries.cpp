@@ -44,11 +44,13 @@ ExitCode check(const CheckOptions &options, const CliSurroundings &from)
     const Workspace &workspace = opened.workspace;
     const Form &form = workspace.form;
     QStringList findings;
-    const auto refusal = opened.outcome == LoadOutcome::LoadedPaused
-                             ? refusalOfPacketNumbers(form)
-                             : refusalOfStart(form, workspace.recipients.count());
-    if (refusal)
-        findings.append(refusal->text);
+    if (opened.outcome == LoadOutcome::LoadedPaused) {
+        if (const auto refusal = refusalOfPacketNumbers(form))
+            findings.append(refusal->text);
+    } else {
+        for (const Refusal &refusal : refusalsOfStart(form, workspace.recipients.count()))
+            findings.append(refusal.text);
+    }
     const QString htmlPath = form.tag(Control::txtHTML);
     if (const auto missing = missingMessageFile(form)) {
         findings.append(QStringLiteral("The message file does not exist: %1").arg(*missing));
@@ -82,7 +84,9 @@ ExitCode compose(const ComposeOptions &options, const CliSurroundings &from)
     }
     if (!opened.workspace.engine.loadBodies())
         return ExitCode::Refused;
-    opened.workspace.engine.composeForRow(options.row);
+    const Recipient &row = opened.workspace.recipients.at(options.row);
+    from.SMTP.Reset();
+    opened.workspace.filler.fill(from.SMTP, opened.workspace.bodies, {{row.address}, row.name});
     const auto composed = from.composer.compose();
     if (!composed) {
         from.output.message(composed.error());
