@@ -49,13 +49,15 @@ Q_SIGNALS:
     void finished();
 
 private:
+    [[nodiscard]] QList<Finding> compose(bool reasonIsKnown);
     void onProbeFinished(const ServerReport &report);
     void finish();
     void setFindings(QList<Finding> findings);
 
     const PreflightParts m_parts;
     QList<Finding> m_findings;
-    Situation m_situation; ///< which the findings are about
+    Situation m_situation;    ///< which the findings are about
+    qint64 m_messageSize = 0; ///< bytes to be transferred; 0: not known
     bool m_isRunning = false;
     quint32 m_turn = 0; ///< changes with every begin, look and giveUp
 };

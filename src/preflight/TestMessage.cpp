@@ -1,32 +1,22 @@
 #include "preflight/TestMessage.h"
 
-#include "smtp/ServerAddress.h"
-
 #include <utility>
 
 namespace {
 
-tl::expected<ServerAddress, QString> serverOf(const Form &form)
+QString notSent(const QString &reason)
 {
-    const auto server = ServerAddress::parse(form.text(Control::txtServer));
-    if (!server) {
-        return tl::unexpected(
-            TestMessage::tr("'%1' is not a port number from 1 to 65535.").arg(server.error()));
-    }
-    if (server->host.trimmed().isEmpty())
-        return tl::unexpected(TestMessage::tr("No server is named."));
-    return *server;
+    return TestMessage::tr("The message was not sent: %1").arg(reason);
 }
 
 QString withReply(const QString &verdict, const QString &reply)
 {
-    return reply.isEmpty() ? verdict : verdict + u'\n' + reply;
+    return reply.isEmpty() ? verdict + u'.' : verdict + QLatin1String(": ") + reply;
 }
 
 } // namespace
 
-TestMessage::TestMessage(const Form &form, TrialMessage &trial)
-    : m_form(form), m_trial(trial), m_SMTP(trial.client())
+TestMessage::TestMessage(TrialMessage &trial) : m_trial(trial), m_SMTP(trial.client())
 {
     connect(&m_SMTP, &Smtp::StatusChanged, this, &TestMessage::onStatusChanged);
     connect(&m_SMTP, &Smtp::MessageDone, this, &TestMessage::onMessageDone);
@@ -37,14 +27,14 @@ TestMessage::TestMessage(const Form &form, TrialMessage &trial)
 void TestMessage::send(int position, const QString &address)
 {
     giveUp();
-    const auto server = serverOf(m_form);
+    const auto server = m_trial.server();
     if (!server) {
-        finishLater(Outcome::NotBegun, server.error());
+        finishLater(Outcome::NotBegun, notSent(server.error()));
         return;
     }
     // What cannot be read is known before anybody connects.
     if (const auto filled = m_trial.fill(position, address); !filled) {
-        finishLater(Outcome::NotBegun, filled.error());
+        finishLater(Outcome::NotBegun, notSent(filled.error()));
         return;
     }
     m_position = position;
@@ -72,7 +62,7 @@ void TestMessage::onStatusChanged(qint32 code)
         return;
     // Anew, since others may have filled the client meanwhile.
     if (const auto filled = m_trial.fill(m_position, m_address); !filled) {
-        finish(Outcome::NotBegun, filled.error());
+        finish(Outcome::NotBegun, notSent(filled.error()));
         return;
     }
     m_phase = Phase::InFlight;
@@ -92,9 +82,9 @@ void TestMessage::onMessageDone(bool sent)
         return;
     const QString reply = m_SMTP.lastReplies().value(0).toText();
     if (sent)
-        finish(Outcome::Accepted, withReply(tr("The server accepted the message."), reply));
+        finish(Outcome::Accepted, withReply(tr("The server accepted the message"), reply));
     else
-        finish(Outcome::Refused, withReply(tr("The message was refused."), reply));
+        finish(Outcome::Refused, withReply(tr("The message was refused"), reply));
 }
 
 void TestMessage::onSmtpError(const QString &description)
@@ -103,9 +93,9 @@ void TestMessage::onSmtpError(const QString &description)
         return;
     const bool mayHaveArrived = m_phase == Phase::InFlight && m_SMTP.mayHaveBeenAccepted();
     finish(Outcome::Failed,
-           withReply(mayHaveArrived ? tr("Whether the server accepted the message is not known.")
-                                    : tr("The message was not sent."),
-                     description));
+           mayHaveArrived
+               ? tr("It is not known whether the server accepted the message: %1").arg(description)
+               : notSent(description));
 }
 
 void TestMessage::finish(Outcome outcome, const QString &text)

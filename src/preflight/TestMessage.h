@@ -17,8 +17,7 @@ public:
         Failed,   ///< the session failed
     };
 
-    /// The form says which server.
-    TestMessage(const Form &form, TrialMessage &trial);
+    explicit TestMessage(TrialMessage &trial);
 
     /// Sends the message that the row at this position (1 is the first; 0 or a list without rows: a
     /// message without a name) would get, to that address. One that is under way is given up.
@@ -44,7 +43,6 @@ private:
     void finish(Outcome outcome, const QString &text);
     void finishLater(Outcome outcome, const QString &text);
 
-    const Form &m_form;
     TrialMessage &m_trial;
     Smtp &m_SMTP;
     Phase m_phase = Phase::Idle;

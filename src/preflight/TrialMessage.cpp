@@ -13,6 +13,7 @@ TrialMessage::TrialMessage(const TrialParts &parts)
 
 tl::expected<void, QString> TrialMessage::fill(int position, const QString &address)
 {
+    static_cast<OutgoingMessage &>(m_SMTP) = {};
     // The client reads the pictures when it takes them; a paused run keeps its working folder.
     const QTemporaryDir folder;
     if (!folder.isValid())
@@ -24,14 +25,21 @@ tl::expected<void, QString> TrialMessage::fill(int position, const QString &addr
     to.addresses = QStringList{address};
     if (position >= 1 && position <= m_recipients.count())
         to.name = m_recipients.at(position).name;
-    static_cast<OutgoingMessage &>(m_SMTP) = {};
     m_filler.fill(m_SMTP, bodies, to);
     return {};
 }
 
-tl::expected<QByteArray, QString> TrialMessage::compose(int position)
+tl::expected<QByteArray, QString> TrialMessage::compose(int position, const QString &address)
 {
-    const bool isRow = position >= 1 && position <= m_recipients.count();
-    const QString address = isRow ? m_recipients.at(position).address : QString();
     return fill(position, address).and_then([this] { return m_composer.compose(); });
+}
+
+tl::expected<ServerAddress, QString> TrialMessage::server() const
+{
+    const auto server = ServerAddress::parse(m_form.text(Control::txtServer));
+    if (!server)
+        return tl::unexpected(tr("'%1' is not a port number from 1 to 65535").arg(server.error()));
+    if (server->host.trimmed().isEmpty())
+        return tl::unexpected(tr("no server is named"));
+    return *server;
 }

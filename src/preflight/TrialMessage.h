@@ -5,7 +5,10 @@
 #include "recipients/RecipientList.h"
 #include "sending/MessageFiller.h"
 #include "smtp/MessageComposer.h"
+#include "smtp/ServerAddress.h"
 #include "smtp/Smtp.h"
+
+#include <QCoreApplication>
 
 /// What a trial is made of. All of it outlives the trial.
 struct TrialParts
@@ -22,6 +25,8 @@ struct TrialParts
 /// working folder nor rows and states, and it writes nothing into the log.
 class TrialMessage
 {
+    Q_DECLARE_TR_FUNCTIONS(TrialMessage)
+
 public:
     explicit TrialMessage(const TrialParts &parts);
 
@@ -29,8 +34,10 @@ public:
     /// first; 0: no row, a message without a name) would get, addressed to that address. The error
     /// is why a message file cannot be read. Leaves the client's session as it is.
     [[nodiscard]] tl::expected<void, QString> fill(int position, const QString &address);
-    /// The message that the row at this position would get alone, or why it cannot be built.
-    [[nodiscard]] tl::expected<QByteArray, QString> compose(int position);
+    /// The message that fill makes, as it would be transferred, or why it cannot be built.
+    [[nodiscard]] tl::expected<QByteArray, QString> compose(int position, const QString &address);
+    /// The server that the form names, or why it names none.
+    [[nodiscard]] tl::expected<ServerAddress, QString> server() const;
 
     [[nodiscard]] Smtp &client() { return m_SMTP; }
 
