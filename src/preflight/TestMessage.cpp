@@ -32,6 +32,10 @@ void TestMessage::send(int position, const QString &address)
         finishLater(Outcome::NotBegun, notSent(server.error()));
         return;
     }
+    if (address.trimmed().isEmpty()) {
+        finishLater(Outcome::NotBegun, notSent(tr("there is no address to send it to")));
+        return;
+    }
     // What cannot be read is known before anybody connects.
     if (const auto filled = m_trial.fill(position, address); !filled) {
         finishLater(Outcome::NotBegun, notSent(filled.error()));

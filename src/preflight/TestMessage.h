@@ -13,7 +13,7 @@ public:
     enum class Outcome {
         Accepted,
         Refused,  ///< the server, or the message itself, would not have it
-        NotBegun, ///< a message file cannot be read, or no server is named
+        NotBegun, ///< a message file cannot be read, or server or address are missing
         Failed,   ///< the session failed
     };
 
