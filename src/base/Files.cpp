@@ -17,6 +17,21 @@ QString translated(const char *text)
     return QCoreApplication::translate("Files", text);
 }
 
+tl::expected<void, FileError> openRegularFile(QFile &file, const QString &path)
+{
+    const QFileInfo info(systemPath(path));
+    if (path.isEmpty() || !info.exists())
+        return failed(path, translated(QT_TRANSLATE_NOOP("Files", "the file does not exist")));
+    if (info.isDir())
+        return failed(path, translated(QT_TRANSLATE_NOOP("Files", "it is a folder")));
+    if (!info.isFile())
+        return failed(path, translated(QT_TRANSLATE_NOOP("Files", "it is not a regular file")));
+    file.setFileName(info.filePath());
+    if (!file.open(QIODevice::ReadOnly))
+        return failed(path, file.errorString());
+    return {};
+}
+
 // What a disk has room for only in part is refused without a reason; offered the rest, the system
 // says why.
 bool writeWhole(QSaveFile &file, const QByteArray &content)
@@ -51,18 +66,17 @@ bool isExistingFile(const QString &path)
     return !path.isEmpty() && QFileInfo(systemPath(path)).isFile();
 }
 
+tl::expected<void, FileError> checkReadable(const QString &path)
+{
+    QFile file;
+    return openRegularFile(file, path);
+}
+
 tl::expected<QByteArray, FileError> readWholeFile(const QString &path)
 {
-    const QFileInfo info(systemPath(path));
-    if (path.isEmpty() || !info.exists())
-        return failed(path, translated(QT_TRANSLATE_NOOP("Files", "the file does not exist")));
-    if (info.isDir())
-        return failed(path, translated(QT_TRANSLATE_NOOP("Files", "it is a folder")));
-    if (!info.isFile())
-        return failed(path, translated(QT_TRANSLATE_NOOP("Files", "it is not a regular file")));
-    QFile file(info.filePath());
-    if (!file.open(QIODevice::ReadOnly))
-        return failed(path, file.errorString());
+    QFile file;
+    if (const auto opened = openRegularFile(file, path); !opened)
+        return tl::unexpected(opened.error());
     QByteArray content = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return failed(path, file.errorString());

@@ -27,6 +27,9 @@ struct FileError
 /// could take for ever.
 [[nodiscard]] tl::expected<QByteArray, FileError> readWholeFile(const QString &path);
 
+/// Whether readWholeFile would open that file; reads nothing.
+[[nodiscard]] tl::expected<void, FileError> checkReadable(const QString &path);
+
 /// Replaces the file as a whole: after a failure the old file is there, untouched.
 [[nodiscard]] tl::expected<void, FileError> replaceWholeFile(const QString &path,
                                                              const QByteArray &content);

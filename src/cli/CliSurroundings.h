@@ -1,21 +1,27 @@
 #pragma once
 
+#include "account/Accounts.h"
 #include "base/Clock.h"
 #include "base/CodePage.h"
 #include "base/RegionalFormats.h"
 #include "cli/Output.h"
 #include "log/CLog.h"
+#include "preflight/TrialMessage.h"
 #include "project/Workspace.h"
 #include "settings/SettingsStore.h"
 #include "smtp/MessageComposer.h"
+#include "smtp/ServerProbe.h"
 #include "smtp/Smtp.h"
 
 /// What the commands are given from outside.
 struct CliSurroundings
 {
     SettingsStore &settings;
-    Smtp &SMTP;
-    MessageComposer &composer;
+    Smtp &SMTP;      ///< the client of the runs
+    Smtp &trialSMTP; ///< one more, for what is made outside runs
+    MessageComposer &trialComposer;
+    ServerProbe &probe;
+    Accounts &accounts;
     const Clock &clock;
     const RegionalFormats &formats;
     const CodePage &codePage;
@@ -24,6 +30,13 @@ struct CliSurroundings
     QString programFolder;
     QString computerName;
     Output &output;
+
+    /// What a message outside a run is made of.
+    [[nodiscard]] TrialParts forTrial(Workspace &workspace) const
+    {
+        return {workspace.form, workspace.recipients, workspace.reader, workspace.filler,
+                trialSMTP,      trialComposer};
+    }
 
     /// The surroundings of a workspace for a command: English, whatever the setting says.
     [[nodiscard]] Surroundings forWorkspace(Prompts &prompts, CLog &AppLog) const

@@ -25,17 +25,49 @@ const char Usage[] = R"(Usage: sorvanta-cli COMMAND ...
       Exit status: 0 all sent, 1 some refused, 2 nothing begun, 3 session error,
       130 paused by Ctrl-C.
 
-  check PROJECT
-      Says what a start would refuse or ask, and sends nothing.
-      Exit status: 0 nothing, 2 something.
+  check PROJECT [--offline]
+      Says what a start would refuse or ask, why the run would fail, and what
+      somebody may be sorry for afterwards; sends nothing. The server is asked
+      too, unless --offline says no.
+      Exit status: 0 nothing, or advice alone; 2 anything else.
+
+  test PROJECT [--to ADDRESS] [--row N]
+      Sends the message as row N (the first, if not said) would get it to the
+      sender's own address, or to ADDRESS, outside any run.
+      Exit status: 0 accepted, 1 refused, 2 nothing begun, 3 session error,
+      130 given up by Ctrl-C.
 
   compose PROJECT --row N
       Prints the message that row N would get alone.
+
+  server HOST[:PORT]
+      Tries the server out, step by step; sends nothing.
+      Exit status: 0 all is well, 3 it ended early, 130 given up by Ctrl-C.
+
+  account HOST [NAME [VALUE]]
+      Lists what is kept about the server, reads one value, or sets it:
+        User          who logs in; empty: asked for when the server wants it
+        TokenCommand  the command that prints an access token
+        Pipelining, Chunking, Trace
+                      0 or 1
+        TrustedCertificates
+                      SHA-256 fingerprints, separated by blanks
+        StartTls      the ports on which the server offered STARTTLS
 
   settings [NAME [VALUE]]
       Lists the settings, reads one, or sets one.
 
   --help, --version
+
+send, check, test and server take besides:
+  --password-command CMD
+      Takes the password from the first line that the command prints. Without
+      it the password comes from the keyring, from ~/.netrc, or is asked for on
+      the terminal.
+  --trace FILE
+      Takes the dialogue with the server down, without passwords.
+
+Exit status 2 is also wrong usage.
 )";
 
 tl::unexpected<NoCommand> wrongUsage(const QString &reason)
@@ -63,11 +95,37 @@ tl::expected<void, NoCommand> parse(QCommandLineParser &parser, const QStringLis
     return {};
 }
 
+void addConnectionOptions(QCommandLineParser &parser)
+{
+    for (const char *name : {"password-command", "trace"}) {
+        parser.addOption(
+            QCommandLineOption(QString::fromLatin1(name), {}, QStringLiteral("value")));
+    }
+}
+
+// An option that takes a value; nothing when it is not there.
+std::optional<QString> valueOf(const QCommandLineParser &parser, const char *name)
+{
+    const QString option = QString::fromLatin1(name);
+    return parser.isSet(option) ? std::optional(parser.value(option)) : std::nullopt;
+}
+
+ConnectionOptions connectionOf(const QCommandLineParser &parser)
+{
+    ConnectionOptions connection;
+    connection.passwordCommand = valueOf(parser, "password-command");
+    connection.traceFile = valueOf(parser, "trace");
+    if (connection.traceFile)
+        connection.traceFile = absolute(*connection.traceFile);
+    return connection;
+}
+
 Parsed parseSend(const QStringList &arguments)
 {
     QCommandLineParser parser;
     for (const char *name : {"yes", "save", "rest", "again", "json"})
         parser.addOption(QCommandLineOption(QString::fromLatin1(name)));
+    addConnectionOptions(parser);
     if (const auto parsed = parse(parser, arguments, 1, 1); !parsed)
         return tl::unexpected(parsed.error());
     const auto has = [&parser](const char *name) {
@@ -80,15 +138,58 @@ Parsed parseSend(const QStringList &arguments)
                        has("save"),
                        has("rest"),
                        has("again"),
-                       has("json")};
+                       has("json"),
+                       connectionOf(parser)};
 }
 
 Parsed parseCheck(const QStringList &arguments)
 {
     QCommandLineParser parser;
+    const QCommandLineOption offline(QStringLiteral("offline"));
+    parser.addOption(offline);
+    addConnectionOptions(parser);
     if (const auto parsed = parse(parser, arguments, 1, 1); !parsed)
         return tl::unexpected(parsed.error());
-    return CheckOptions{absolute(parser.positionalArguments().front())};
+    return CheckOptions{absolute(parser.positionalArguments().front()), parser.isSet(offline),
+                        connectionOf(parser)};
+}
+
+Parsed parseTest(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    for (const char *name : {"to", "row"}) {
+        parser.addOption(
+            QCommandLineOption(QString::fromLatin1(name), {}, QStringLiteral("value")));
+    }
+    addConnectionOptions(parser);
+    if (const auto parsed = parse(parser, arguments, 1, 1); !parsed)
+        return tl::unexpected(parsed.error());
+    TestOptions options{absolute(parser.positionalArguments().front()),
+                        valueOf(parser, "to"),
+                        {},
+                        connectionOf(parser)};
+    if (const auto row = valueOf(parser, "row")) {
+        options.row = toNumber<int>(*row);
+        if (!options.row)
+            return wrongUsage(QStringLiteral("test: --row needs the number of a row"));
+    }
+    return options;
+}
+
+Parsed parseServer(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    addConnectionOptions(parser);
+    if (const auto parsed = parse(parser, arguments, 1, 1); !parsed)
+        return tl::unexpected(parsed.error());
+    const auto server = ServerAddress::parse(parser.positionalArguments().front().trimmed());
+    if (!server) {
+        return wrongUsage(QStringLiteral("server: '%1' is not a port number from 1 to 65535")
+                              .arg(server.error()));
+    }
+    if (server->host.isEmpty())
+        return wrongUsage(QStringLiteral("server: the host is missing"));
+    return ServerOptions{*server, connectionOf(parser)};
 }
 
 Parsed parseCompose(const QStringList &arguments)
@@ -104,17 +205,31 @@ Parsed parseCompose(const QStringList &arguments)
     return ComposeOptions{absolute(parser.positionalArguments().front()), *number};
 }
 
+// NAME [VALUE] at that place. A value may begin with a "-", so nothing here is an option.
+template <typename Options>
+Parsed parseNameAndValue(const QStringList &arguments, qsizetype place, Options options)
+{
+    if (arguments.size() > place)
+        options.name = arguments.at(place);
+    if (arguments.size() > place + 1)
+        options.value = arguments.at(place + 1);
+    if (arguments.size() > place + 2)
+        return wrongUsage(QStringLiteral("%1: too many arguments").arg(arguments.front()));
+    return options;
+}
+
 Parsed parseSettings(const QStringList &arguments)
 {
-    // A value may begin with a "-", so nothing here is an option.
-    SettingsOptions options;
-    if (arguments.size() > 1)
-        options.name = arguments.at(1);
-    if (arguments.size() > 2)
-        options.value = arguments.at(2);
-    if (arguments.size() > 3)
-        return wrongUsage(QStringLiteral("settings: too many arguments"));
-    return options;
+    return parseNameAndValue(arguments, 1, SettingsOptions());
+}
+
+Parsed parseAccount(const QStringList &arguments)
+{
+    const QString host = arguments.value(1).trimmed();
+    if (host.isEmpty() || host.startsWith(u'-'))
+        return wrongUsage(QStringLiteral("account: the host is missing"));
+    // What is kept holds for all ports of a host.
+    return parseNameAndValue(arguments, 2, AccountOptions{host.section(u':', 0, 0), {}, {}});
 }
 
 } // namespace
@@ -129,6 +244,12 @@ Parsed parseCommandLine(const QStringList &arguments)
         return parseSend(rest);
     if (name == QLatin1String("check"))
         return parseCheck(rest);
+    if (name == QLatin1String("test"))
+        return parseTest(rest);
+    if (name == QLatin1String("server"))
+        return parseServer(rest);
+    if (name == QLatin1String("account"))
+        return parseAccount(rest);
     if (name == QLatin1String("compose"))
         return parseCompose(rest);
     if (name == QLatin1String("settings"))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/ExitCode.h"
+#include "smtp/ServerAddress.h"
 
 #include <QString>
 #include <QStringList>
@@ -10,6 +11,13 @@
 #include <optional>
 #include <variant>
 
+/// What the commands that talk to a server have in common.
+struct ConnectionOptions
+{
+    std::optional<QString> passwordCommand; ///< prints the password; nobody else is asked for it
+    std::optional<QString> traceFile;       ///< takes the dialogue down
+};
+
 struct SendOptions
 {
     QString project;
@@ -18,11 +26,35 @@ struct SendOptions
     bool rest = false;  ///< leave out the rows that were sent or are in doubt
     bool again = false; ///< send to them again
     bool json = false;
+    ConnectionOptions connection = {};
 };
 
 struct CheckOptions
 {
     QString project;
+    bool offline = false; ///< asks no server
+    ConnectionOptions connection = {};
+};
+
+struct TestOptions
+{
+    QString project;
+    std::optional<QString> to; ///< instead of the sender's own address
+    std::optional<int> row;    ///< instead of the first
+    ConnectionOptions connection = {};
+};
+
+struct ServerOptions
+{
+    ServerAddress server;
+    ConnectionOptions connection = {};
+};
+
+struct AccountOptions
+{
+    QString host;
+    std::optional<QString> name;
+    std::optional<QString> value;
 };
 
 struct ComposeOptions
@@ -37,7 +69,8 @@ struct SettingsOptions
     std::optional<QString> value;
 };
 
-using Command = std::variant<SendOptions, CheckOptions, ComposeOptions, SettingsOptions>;
+using Command = std::variant<SendOptions, CheckOptions, TestOptions, ComposeOptions, ServerOptions,
+                             AccountOptions, SettingsOptions>;
 
 /// Why there is no command to run: help that was asked for (Success), or wrong usage.
 struct NoCommand

@@ -3,7 +3,6 @@
 #include "base/Terminal.h"
 
 #include <algorithm>
-#include <cstdio>
 
 namespace {
 
@@ -14,7 +13,9 @@ void put(std::FILE *stream, const QByteArray &bytes)
 
 } // namespace
 
-Output::Output() : m_hasTerminal(isTerminal(stderr)) {}
+Output::Output(std::FILE *results, std::FILE *messages)
+    : m_results(results), m_messages(messages), m_hasTerminal(isTerminal(messages))
+{}
 
 void Output::result(const QString &line)
 {
@@ -24,14 +25,14 @@ void Output::result(const QString &line)
 void Output::bytes(const QByteArray &content)
 {
     clearProgress();
-    put(stdout, content);
+    put(m_results, content);
 }
 
 void Output::message(const QString &line)
 {
     clearProgress();
     flush();
-    put(stderr, line.toLocal8Bit() + '\n');
+    put(m_messages, line.toLocal8Bit() + '\n');
 }
 
 void Output::showProgress(int done, int total, const QString &text)
@@ -42,9 +43,9 @@ void Output::showProgress(int done, int total, const QString &text)
     const int filled = total > 0 ? std::clamp(done * Width / total, 0, Width) : 0;
     flush();
     clearProgress();
-    put(stderr, '[' + QByteArray(filled, '#') + QByteArray(Width - filled, '-') + "] " +
-                    QByteArray::number(done) + '/' + QByteArray::number(total) + "  " +
-                    text.toLocal8Bit());
+    put(m_messages, '[' + QByteArray(filled, '#') + QByteArray(Width - filled, '-') + "] " +
+                        QByteArray::number(done) + '/' + QByteArray::number(total) + "  " +
+                        text.toLocal8Bit());
     m_showsProgress = true;
     m_sinceProgress.start();
 }
@@ -53,7 +54,7 @@ void Output::clearProgress()
 {
     if (!m_showsProgress)
         return;
-    put(stderr, "\r\x1b[K");
+    put(m_messages, "\r\x1b[K");
     m_showsProgress = false;
 }
 
@@ -73,5 +74,5 @@ bool Output::progressIsDue() const
 
 void Output::flush()
 {
-    std::fflush(stdout);
+    std::fflush(m_results);
 }

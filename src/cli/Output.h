@@ -4,12 +4,14 @@
 #include <QElapsedTimer>
 #include <QString>
 
+#include <cstdio>
+
 /// What the commands say: results to standard output, messages to standard error, and while a
 /// person watches, one line at the bottom that shows how far a run is.
 class Output
 {
 public:
-    Output();
+    explicit Output(std::FILE *results = stdout, std::FILE *messages = stderr);
 
     void result(const QString &line);
     void bytes(const QByteArray &content);
@@ -26,6 +28,8 @@ public:
     void flush();
 
 private:
+    std::FILE *m_results;
+    std::FILE *m_messages;
     bool m_hasTerminal;
     bool m_showsProgress = false;
     bool m_holdsProgress = false;

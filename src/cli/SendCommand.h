@@ -3,12 +3,11 @@
 #include "cli/CliPrompts.h"
 #include "cli/CliSurroundings.h"
 #include "cli/CommandLine.h"
+#include "cli/LongCommand.h"
 #include "project/Workspace.h"
 
-#include <QObject>
-
 /// `send`: a run without a window, from Start or, for a project that was saved paused, from Resume.
-class SendCommand : public QObject
+class SendCommand : public LongCommand
 {
     Q_OBJECT
 
@@ -16,13 +15,10 @@ public:
     SendCommand(const SendOptions &options, const CliSurroundings &from);
     ~SendCommand() override;
 
-    void start();
+    void start() override;
     /// Ctrl-C: the first time pauses after the message in flight and saves the project, the second
     /// time ends at once, with the project saved as paused and the cursor past that message.
-    void interrupt();
-
-Q_SIGNALS:
-    void finished(ExitCode code);
+    void interrupt() override;
 
 private:
     void startStopped();

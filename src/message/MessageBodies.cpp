@@ -7,7 +7,7 @@
 #include <QDir>
 #include <QFile>
 
-MessageBodies::MessageBodies(Form &form, const MessageReader &reader, Smtp &SMTP,
+MessageBodies::MessageBodies(const Form &form, const MessageReader &reader, Smtp &SMTP,
                              const QString &programFolder)
     : m_form(form), m_reader(reader), m_SMTP(SMTP), m_programFolder(programFolder)
 {}
@@ -33,6 +33,25 @@ void MessageBodies::empty()
 {
     m_textBody.clear();
     m_htmlBody.clear();
+}
+
+tl::expected<void, FileError> MessageBodies::loadSilently()
+{
+    empty();
+    if (const QString path = m_form.tag(Control::txtEmail); !path.isEmpty()) {
+        auto text = m_reader.read(path, MessageKind::Text);
+        if (!text)
+            return tl::unexpected(text.error());
+        m_textBody = *std::move(text);
+    }
+    if (!m_form.text(Control::txtHTML).isEmpty()) {
+        auto html = m_reader.read(m_form.tag(Control::txtHTML), MessageKind::Html);
+        if (!html)
+            return tl::unexpected(html.error());
+        m_htmlBody = *std::move(html);
+        StageLinkedImages();
+    }
+    return {};
 }
 
 bool MessageBodies::CheckLinkedImages(const QString &htmlPath) const

@@ -9,7 +9,7 @@
 class MessageBodies
 {
 public:
-    MessageBodies(Form &form, const MessageReader &reader, Smtp &SMTP,
+    MessageBodies(const Form &form, const MessageReader &reader, Smtp &SMTP,
                   const QString &programFolder);
 
     /// Loads the text message. False when there is one and it cannot be read.
@@ -19,6 +19,9 @@ public:
     /// emptied is not loaded.
     bool LoadHtmlBody();
     void empty();
+    /// Loads both anew without a box or a line in the log. The error is the first file that cannot
+    /// be read.
+    [[nodiscard]] tl::expected<void, FileError> loadSilently();
     /// The box of a message that cannot be loaded.
     void reportUnreadable(const QString &detail) const { m_reader.reportUnreadable(detail); }
     [[nodiscard]] QString textBody() const { return m_textBody; }
@@ -35,7 +38,7 @@ private:
     QString stage(const QString &source, const QString &name);
     [[nodiscard]] QString workingFolder() const;
 
-    Form &m_form;
+    const Form &m_form;
     const MessageReader &m_reader;
     Smtp &m_SMTP;
     QString m_programFolder;

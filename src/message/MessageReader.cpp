@@ -1,6 +1,5 @@
 #include "message/MessageReader.h"
 
-#include "base/Files.h"
 #include "base/Lines.h"
 
 #include <QStringDecoder>
@@ -61,19 +60,29 @@ MessageReader::MessageReader(Prompts &prompts, CLog &AppLog, const CodePage &cod
     : m_prompts(prompts), m_AppLog(AppLog), m_codePage(codePage)
 {}
 
-bool MessageReader::LoadMessageFile(QString &content, const QString &path, MessageKind kind) const
+tl::expected<QString, FileError> MessageReader::read(const QString &path, MessageKind kind) const
 {
-    content.clear();
     const auto bytes = readWholeFile(path);
-    if (!bytes) {
-        reportUnreadable(bytes.error().toText());
-        return false;
-    }
+    if (!bytes)
+        return tl::unexpected(bytes.error());
     const QString text = decodeMessage(*bytes, kind, m_codePage);
+    QString content;
     content.reserve(text.size() + 2);
     LineReader lines(text);
     while (const auto line = lines.next())
         content.append(*line).append(QLatin1String("\r\n"));
+    return content;
+}
+
+bool MessageReader::LoadMessageFile(QString &content, const QString &path, MessageKind kind) const
+{
+    content.clear();
+    auto text = read(path, kind);
+    if (!text) {
+        reportUnreadable(text.error().toText());
+        return false;
+    }
+    content = *std::move(text);
     m_AppLog.WriteMessage(QLatin1String("Message file '") + path + QLatin1String("' loaded"));
     return true;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/CodePage.h"
+#include "base/Files.h"
 #include "log/CLog.h"
 #include "prompts/Prompts.h"
 
@@ -21,8 +22,11 @@ class MessageReader
 public:
     MessageReader(Prompts &prompts, CLog &AppLog, const CodePage &codePage);
 
-    /// Fills content with the file's lines, each ended by CR LF, and logs the file. On failure a
-    /// box says so, content is empty and the answer is false.
+    /// The file's lines, each ended by CR LF. Shows no box and logs nothing.
+    [[nodiscard]] tl::expected<QString, FileError> read(const QString &path,
+                                                        MessageKind kind) const;
+    /// Fills content as read does, and logs the file. On failure a box says so, content is empty
+    /// and the answer is false.
     bool LoadMessageFile(QString &content, const QString &path, MessageKind kind) const;
     /// The box of a message that cannot be loaded.
     void reportUnreadable(const QString &detail) const;

@@ -5,8 +5,9 @@ Workspace::Workspace(const Surroundings &from)
       reader(from.prompts, from.AppLog, from.codePage),
       size(form, attachments, reader, from.prompts, from.formats),
       bodies(form, reader, from.SMTP, from.programFolder),
-      engine({form, recipients, attachments, bodies, from.SMTP, from.prompts, from.AppLog,
-              from.clock, from.formats, from.Timer, from.Timer2, from.computerName,
+      filler(form, attachments, from.clock, from.computerName),
+      engine({form, recipients, filler, bodies, from.SMTP, from.prompts, from.AppLog, from.clock,
+              from.formats, from.Timer, from.Timer2,
               [this](std::function<void(SaveOutcome)> then) {
                   projectCommands.save(std::move(then));
               }}),

@@ -19,6 +19,7 @@
 #include "recipients/RecipientCommands.h"
 #include "recipients/RecipientList.h"
 #include "recipients/RecipientsFile.h"
+#include "sending/MessageFiller.h"
 #include "sending/SendingEngine.h"
 #include "settings/SettingsStore.h"
 
@@ -54,6 +55,7 @@ public:
     MessageReader reader;
     MessageSize size;
     MessageBodies bodies;
+    MessageFiller filler;
     SendingEngine engine;
     ProjectFile projectFile;
     WindowSettings windowSettings;

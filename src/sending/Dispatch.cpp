@@ -3,9 +3,7 @@
 
 #include "sending/SendingEngine.h"
 
-#include "base/Maker.h"
 #include "base/Numbers.h"
-#include "message/PersonalText.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
@@ -107,63 +105,22 @@ std::vector<int> SendingEngine::takeGroup()
     return group;
 }
 
-QString SendingEngine::PersonalizeText(const QString &text) const
-{
-    return withName(text, m_recipients.at(m_session.nextRecipientIndex).name);
-}
-
-void SendingEngine::fillMessage(const std::vector<int> &positions, Addressing addressing)
-{
-    if (addressing == Addressing::Group) {
-        QStringList addresses;
-        for (const int position : positions)
-            addresses.append(m_recipients.at(position).address);
-        m_SMTP.RecipientAddress = addresses.join(u',');
-        m_SMTP.RecipientList = true;
-    } else {
-        m_SMTP.RecipientAddress = m_recipients.at(positions.front()).address;
-    }
-    const QString sender = m_form.text(Control::txtEmailMittente);
-    m_SMTP.FromName = m_form.text(Control::txtMittente);
-    m_SMTP.FromAddress = sender;
-    m_SMTP.Mailer = QStringLiteral("Sorvanta - ") + QLatin1String(Maker::WebSiteHost);
-    m_SMTP.Subject = m_form.text(Control::txtOggetto);
-    m_SMTP.DateText = m_moment.dateText();
-    if (m_form.isChecked(Control::chkRicevuta)) {
-        m_SMTP.ReceiptAddress = sender;
-        m_SMTP.RequestReceipt = true;
-    }
-    m_SMTP.ExtraHeaders =
-        QLatin1String("Message-ID: <") + m_moment.nextIdentifier() + QLatin1String(">\r\n");
-    m_SMTP.TextBody = Texts::tr("Unable to show the message");
-    if (!m_form.tag(Control::txtEmail).isEmpty())
-        m_SMTP.TextBody = PersonalizeText(m_bodies.textBody());
-    if (!m_form.tag(Control::txtHTML).isEmpty())
-        m_SMTP.HtmlBody = PersonalizeText(m_bodies.htmlBody());
-    for (const QString &path : m_attachments.paths())
-        m_SMTP.AddAttachment(path);
-}
-
-void SendingEngine::composeForRow(int position)
-{
-    const qint32 cursor = std::exchange(m_session.nextRecipientIndex, position);
-    m_SMTP.Reset();
-    fillMessage({position}, Addressing::Single);
-    m_session.nextRecipientIndex = cursor;
-}
-
 void SendingEngine::handOver(const std::vector<int> &positions, Addressing addressing)
 {
     MessageInFlight message;
     message.subject = m_form.text(Control::txtOggetto);
     message.situation = m_form.situation();
+    Addressees to;
+    to.name = m_recipients.at(positions.front()).name;
+    to.isGroup = addressing == Addressing::Group;
     for (const int position : positions) {
         m_recipients.makeCurrent(position);
         m_recipients.setState(position, stateText(RowState::Sending));
         const Recipient &row = m_recipients.at(position);
         message.rows.push_back({row.id, position, row.address, row.number});
+        to.addresses.append(row.address);
     }
-    fillMessage(positions, addressing);
+    m_filler.fill(m_SMTP, m_bodies, to);
     m_session.messageStartTick = m_clock.tickCount();
     m_inFlight = message;
     m_SMTP.Send();

@@ -87,7 +87,7 @@ void SendingEngine::resume()
     if (m_form.runState() != RunState::Paused)
         return;
     if (const auto refusal = refusalOfPacketNumbers(m_form)) {
-        m_prompts.notice(*refusal);
+        m_prompts.notice(refusal->box);
         return;
     }
     if (!m_bodiesLoaded && !loadBodies())

@@ -5,7 +5,7 @@
 SendingEngine::SendingEngine(const EngineParts &parts)
     : m_form(parts.form),
       m_recipients(parts.recipients),
-      m_attachments(parts.attachments),
+      m_filler(parts.filler),
       m_bodies(parts.bodies),
       m_SMTP(parts.SMTP),
       m_prompts(parts.prompts),
@@ -14,8 +14,7 @@ SendingEngine::SendingEngine(const EngineParts &parts)
       m_formats(parts.formats),
       m_Timer(parts.Timer),
       m_Timer2(parts.Timer2),
-      m_save(parts.save),
-      m_moment(parts.clock, parts.computerName)
+      m_save(parts.save)
 {
     m_Timer.onTick = [this] { Timer_Timer(); };
     m_Timer2.onTick = [this] { Timer2_Timer(); };

@@ -4,11 +4,10 @@
 #include "base/RegionalFormats.h"
 #include "form/Form.h"
 #include "log/CLog.h"
-#include "message/Attachments.h"
 #include "message/MessageBodies.h"
 #include "prompts/Prompts.h"
 #include "recipients/RecipientList.h"
-#include "sending/MomentTexts.h"
+#include "sending/MessageFiller.h"
 #include "sending/SendSession.h"
 #include "sending/Turns.h"
 #include "smtp/Smtp.h"
@@ -38,7 +37,7 @@ struct EngineParts
 {
     Form &form;
     RecipientList &recipients;
-    const Attachments &attachments;
+    MessageFiller &filler;
     MessageBodies &bodies;
     Smtp &SMTP;
     Prompts &prompts;
@@ -47,7 +46,6 @@ struct EngineParts
     const RegionalFormats &formats;
     SecondTimer &Timer;  ///< counts down to the next packet
     SecondTimer &Timer2; ///< shows elapsed and remaining time
-    QString computerName;
     /// Runs the save command; what is above the engine hands it in.
     std::function<void(std::function<void(SaveOutcome)>)> save;
 };
@@ -81,10 +79,6 @@ public:
     void StopSending();
     /// One step of the elapsed and remaining time.
     void Timer2_Timer();
-
-    /// Fills the client's properties and attachments with the message that the row at this
-    /// position would get alone.
-    void composeForRow(int position);
 
     [[nodiscard]] qint32 nextRecipientIndex() const { return m_session.nextRecipientIndex; }
     void setNextRecipientIndex(qint32 index);
@@ -122,9 +116,7 @@ private:
     [[nodiscard]] bool findNextRecipient();
     [[nodiscard]] std::vector<int> takeGroup();
     enum class Addressing { Single, Group };
-    void fillMessage(const std::vector<int> &positions, Addressing addressing);
     void handOver(const std::vector<int> &positions, Addressing addressing);
-    [[nodiscard]] QString PersonalizeText(const QString &text) const;
     void markNotSent(int position);
 
     // Results
@@ -154,7 +146,7 @@ private:
 
     Form &m_form;
     RecipientList &m_recipients;
-    const Attachments &m_attachments;
+    MessageFiller &m_filler;
     MessageBodies &m_bodies;
     Smtp &m_SMTP;
     Prompts &m_prompts;
@@ -164,7 +156,6 @@ private:
     SecondTimer &m_Timer;
     SecondTimer &m_Timer2;
     std::function<void(std::function<void(SaveOutcome)>)> m_save;
-    MomentTexts m_moment;
 
     SendSession m_session;
     std::optional<MessageInFlight> m_inFlight;

@@ -21,8 +21,9 @@ void SendingEngine::cmdAvvio_Click()
 {
     if (!m_form.isEnabled(Control::cmdAvvio))
         return;
-    if (const auto refusal = refusalOfStart(m_form, m_recipients.count())) {
-        m_prompts.notice(*refusal);
+    const auto refusals = refusalsOfStart(m_form, m_recipients.count());
+    if (!refusals.isEmpty()) {
+        m_prompts.notice(refusals.front().box);
         return;
     }
     checkPictures();

@@ -3,15 +3,25 @@
 #include "form/Form.h"
 #include "prompts/Prompts.h"
 
+#include <QList>
+
 #include <optional>
 
-/// Why a run cannot start with what the form holds: the box of the first rule that is broken, or
-/// nothing. Looks at no files.
-[[nodiscard]] std::optional<Notice> refusalOfStart(const Form &form, int recipientCount);
+/// A rule of Start that is broken.
+struct Refusal
+{
+    Notice box;      ///< what Start shows
+    QString text;    ///< the rule's own words, also where several rules share a box
+    Control control; ///< where it is put right
+};
+
+/// Why a run cannot start with what the form holds, in the order of the rules; Start shows the box
+/// of the first. Looks at no files.
+[[nodiscard]] QList<Refusal> refusalsOfStart(const Form &form, int recipientCount);
 
 /// The part of these rules that a paused run has to keep to when it goes on: the numbers of
 /// messages per packet and of minutes between packets.
-[[nodiscard]] std::optional<Notice> refusalOfPacketNumbers(const Form &form);
+[[nodiscard]] std::optional<Refusal> refusalOfPacketNumbers(const Form &form);
 
 /// The path of a message file that does not exist; looks at the disk.
 [[nodiscard]] std::optional<QString> missingMessageFile(const Form &form);

@@ -15,4 +15,10 @@ private Q_SLOTS:
     void pathsComeOutAbsolute();
     void composeNeedsARow();
     void aSettingsValueMayBeginWithADash();
+    void whoeverConnectsTakesTheSameOptions_data();
+    void whoeverConnectsTakesTheSameOptions();
+    void checkCanStayOffline();
+    void testTakesAddressAndRow();
+    void aServerHasItsPort();
+    void anAccountTakesNameAndValue();
 };

@@ -1,7 +1,7 @@
 #include "TestSendCommand.h"
 
+#include "CliRig.h"
 #include "cli/SendCommand.h"
-#include "support/WorkspaceRig.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -10,36 +10,18 @@
 
 namespace {
 
-class NoComposer : public MessageComposer
-{
-public:
-    tl::expected<QByteArray, QString> compose() override { return tl::unexpected(QString()); }
-};
-
 // A project on disk, and the command that sends it with a client in memory.
-class SendRig
+class SendRig : public CliRig
 {
 public:
-    explicit SendRig(int recipients = 3)
-    {
-        author.fillForm(recipients);
-        path = author.folder.filePath(QStringLiteral("mailing.svk"));
-    }
-
-    void saveProject()
-    {
-        author.w.projectFile.SaveProject(path, [](bool saved) { QVERIFY(saved); });
-    }
+    using CliRig::CliRig;
 
     /// Starts the command and lets it come to where it waits for the clock or the server.
     void start(SendOptions options = {})
     {
         options.project = path;
         exitCode.reset();
-        command.emplace(options,
-                        CliSurroundings{author.store, smtp, composer, author.clock, author.formats,
-                                        author.codePage, Timer, Timer2, author.folder.path(),
-                                        QStringLiteral("pc"), output});
+        command.emplace(options, surroundings());
         QObject::connect(&*command, &SendCommand::finished, &smtp,
                          [this](ExitCode code) { exitCode = code; });
         command->start();
@@ -72,8 +54,6 @@ public:
         if (!exitCode)
             QTest::qFail("the command does not end", __FILE__, __LINE__);
     }
-    static void settle() { WorkspaceRig::settle(); }
-
     [[nodiscard]] ProjectData saved() const
     {
         return decodeProject(QString::fromLatin1(WorkspaceRig::contentOf(path)))
@@ -94,13 +74,6 @@ public:
         return all;
     }
 
-    WorkspaceRig author;
-    QString path;
-    FakeSmtp smtp;
-    FakeTimer Timer;
-    FakeTimer Timer2;
-    NoComposer composer;
-    Output output;
     std::optional<SendCommand> command;
     std::optional<ExitCode> exitCode;
 };

@@ -167,11 +167,11 @@ class Outcomes(EndToEnd):
             with self.subTest(**fields):
                 path = self.project(self.server, rows(1), **fields)
                 self.send(path, status=2)
-                self.assertEqual(self.program.run("check", path).status, 2)
+                self.assertEqual(self.program.run("check", path, "--offline").status, 2)
         self.assertEqual(self.server.connections, 0)
 
     def test_check_of_a_good_project_is_0_and_sends_nothing(self):
-        self.assertEqual(self.program.run("check", self.path).status, 0)
+        self.assertEqual(self.program.run("check", self.path, "--offline").status, 0)
         self.assertEqual(self.server.connections, 0)
 
     def test_yes_sends_although_pictures_cannot_travel(self):

@@ -351,17 +351,3 @@ void TestDispatch::theWholeLogOfARun()
                  QStringLiteral("Sending ended without problems"),
                  QStringLiteral("Sending procedure stopped")}));
 }
-
-void TestDispatch::aRowIsComposedAlone()
-{
-    WorkspaceRig rig;
-    rig.fillForm(3);
-    sendInGroups(rig);
-    QVERIFY(rig.w.engine.loadBodies());
-    rig.w.engine.composeForRow(2);
-    QCOMPARE(rig.smtp.RecipientAddress, QStringLiteral("a2@example.net"));
-    QVERIFY(!rig.smtp.RecipientList);
-    QCOMPARE(rig.smtp.TextBody, QStringLiteral("Dear Name 2,\r\n"));
-    QVERIFY(rig.smtp.sent.isEmpty());
-    QCOMPARE(rig.state(2), Waiting);
-}

@@ -30,5 +30,4 @@ private Q_SLOTS:
     void handingOverMarksTheProjectModified();
     void theLogNamesEveryMessage();
     void theWholeLogOfARun();
-    void aRowIsComposedAlone();
 };

@@ -1,5 +1,6 @@
 #include "TestDispatch.h"
 #include "TestInFlight.h"
+#include "TestMessageFiller.h"
 #include "TestMomentTexts.h"
 #include "TestPacing.h"
 #include "TestResults.h"
@@ -10,5 +11,5 @@
 int main(int argc, char **argv)
 {
     return runTests<TestTimeTexts, TestMomentTexts, TestStart, TestDispatch, TestResults,
-                    TestPacing, TestInFlight>(argc, argv);
+                    TestPacing, TestInFlight, TestMessageFiller>(argc, argv);
 }

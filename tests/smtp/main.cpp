@@ -9,6 +9,7 @@
 #include "smtp/TestMishaps.h"
 #include "smtp/TestProbe.h"
 #include "smtp/TestReplyReader.h"
+#include "smtp/TestServerReportText.h"
 #include "smtp/TestTransaction.h"
 
 #include <QCoreApplication>
@@ -32,5 +33,5 @@ int main(int argc, char **argv)
     const QCoreApplication app(argc, argv);
     return runAll<TestReplyReader, TestMailAddress, TestTransaction, TestHeaders, TestMime,
                   TestContract, TestClient, TestDialogue, TestMishaps, TestEncryption, TestLogin,
-                  TestProbe>(argc, argv);
+                  TestProbe, TestServerReportText>(argc, argv);
 }

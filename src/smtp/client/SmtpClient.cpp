@@ -58,6 +58,7 @@ void SmtpClient::AddAttachment(const QString &path)
 tl::expected<QByteArray, QString> SmtpClient::compose()
 {
     const auto letter = m_builder.build(*this, std::exchange(m_attachments, {}));
+    m_builder.inlineFiles().beginNewSet();
     if (!letter)
         return tl::unexpected(letter.error());
     if (letter->recipients.size() == 1 && !letter->recipients.first())

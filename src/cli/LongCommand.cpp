@@ -1,0 +1,1 @@
+#include "cli/LongCommand.h" // the signal's code is generated from the header

@@ -1,0 +1,46 @@
+#include "sending/MessageFiller.h"
+
+#include "base/Maker.h"
+#include "message/PersonalText.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(Dispatch)
+};
+
+} // namespace
+
+MessageFiller::MessageFiller(const Form &form, const Attachments &attachments, const Clock &clock,
+                             const QString &computerName)
+    : m_form(form), m_attachments(attachments), m_moment(clock, computerName)
+{}
+
+void MessageFiller::fill(Smtp &SMTP, const MessageBodies &bodies, const Addressees &to)
+{
+    SMTP.RecipientAddress = to.addresses.join(u',');
+    if (to.isGroup)
+        SMTP.RecipientList = true;
+    const QString sender = m_form.text(Control::txtEmailMittente);
+    SMTP.FromName = m_form.text(Control::txtMittente);
+    SMTP.FromAddress = sender;
+    SMTP.Mailer = QStringLiteral("Sorvanta - ") + QLatin1String(Maker::WebSiteHost);
+    SMTP.Subject = m_form.text(Control::txtOggetto);
+    SMTP.DateText = m_moment.dateText();
+    if (m_form.isChecked(Control::chkRicevuta)) {
+        SMTP.ReceiptAddress = sender;
+        SMTP.RequestReceipt = true;
+    }
+    SMTP.ExtraHeaders =
+        QLatin1String("Message-ID: <") + m_moment.nextIdentifier() + QLatin1String(">\r\n");
+    SMTP.TextBody = Texts::tr("Unable to show the message");
+    if (!m_form.tag(Control::txtEmail).isEmpty())
+        SMTP.TextBody = withName(bodies.textBody(), to.name);
+    if (!m_form.tag(Control::txtHTML).isEmpty())
+        SMTP.HtmlBody = withName(bodies.htmlBody(), to.name);
+    for (const QString &path : m_attachments.paths())
+        SMTP.AddAttachment(path);
+}

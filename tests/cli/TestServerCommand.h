@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QObject>
+
+class TestServerCommand : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aServerThatIsWellIsSaidStepByStep();
+    void aServerThatEndsEarlyIsAnError();
+    void linesOfTheServerStayLines();
+    void ctrlCGivesItUp();
+};

@@ -1,0 +1,12 @@
+#include "TestAddressRules.h"
+#include "TestHtmlWords.h"
+#include "TestPreflight.h"
+#include "TestTestMessage.h"
+#include "TestTrialMessage.h"
+#include "support/RunTests.h"
+
+int main(int argc, char **argv)
+{
+    return runTests<TestAddressRules, TestHtmlWords, TestTrialMessage, TestTestMessage,
+                    TestPreflight>(argc, argv);
+}

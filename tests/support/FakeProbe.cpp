@@ -1,0 +1,1 @@
+#include "support/FakeProbe.h" // the signals' code is generated from the header
