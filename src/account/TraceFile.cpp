@@ -23,15 +23,18 @@ QString markOf(Speaker speaker)
 } // namespace
 
 TraceFile::TraceFile(const QString &path, const Clock &clock, Prompts &prompts)
-    : m_file(systemPath(path)), m_clock(clock), m_prompts(prompts)
+    : TraceFile(path, clock, prompts, nullptr)
 {}
 
 TraceFile::TraceFile(const QString &path, const Clock &clock, Prompts &prompts,
                      const ServerAccounts &accounts)
-    : TraceFile(path, clock, prompts)
-{
-    m_accounts = &accounts;
-}
+    : TraceFile(path, clock, prompts, &accounts)
+{}
+
+TraceFile::TraceFile(const QString &path, const Clock &clock, Prompts &prompts,
+                     const ServerAccounts *accounts)
+    : m_file(systemPath(path)), m_clock(clock), m_prompts(prompts), m_accounts(accounts)
+{}
 
 bool TraceFile::wants(const QString &host) const
 {

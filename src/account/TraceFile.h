@@ -29,12 +29,15 @@ public:
     void line(const ServerAddress &server, Speaker speaker, const QString &text) override;
 
 private:
+    TraceFile(const QString &path, const Clock &clock, Prompts &prompts,
+              const ServerAccounts *accounts);
+
     [[nodiscard]] bool open();
     void giveUp(const QString &reason);
 
     QFile m_file;
     const Clock &m_clock;
     Prompts &m_prompts;
-    const ServerAccounts *m_accounts = nullptr; ///< nullptr: every host is wanted
+    const ServerAccounts *m_accounts; ///< nullptr: every host is wanted
     bool m_isGivenUp = false;
 };

@@ -24,7 +24,7 @@ public:
     /// A chain with nobody to ask.
     void sendPersonAway() { makeChain(nullptr); }
 
-    void writeNetrc(const QByteArray &content, QFile::Permissions others = {})
+    void writeNetrc(const QByteArray &content, QFile::Permissions others = {}) const
     {
         const QString path = folder.filePath(QStringLiteral(".netrc"));
         writeFile(path, content);
@@ -71,12 +71,12 @@ public:
     }
 
     void accept(const QString &user, const QString &secret,
-                Login::Kind kind = Login::Kind::Password)
+                Login::Kind kind = Login::Kind::Password) const
     {
         chain->accepted(server, {kind, user, secret});
         FakeServer::settle();
     }
-    void refuse(const QString &user, const QString &secret)
+    void refuse(const QString &user, const QString &secret) const
     {
         chain->refused(server, {Login::Kind::Password, user, secret});
         FakeServer::settle();

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QTest>
 
+#include <algorithm>
 #include <deque>
 
 /// Somebody who can be asked for a login, and who answers when the test says so.

@@ -6,6 +6,7 @@
 #include <QString>
 #include <QTest>
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <memory>
@@ -20,7 +21,6 @@ class PseudoTerminal
 public:
     PseudoTerminal()
     {
-        m_front = ::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK);
         if (m_front < 0 || ::grantpt(m_front) != 0 || ::unlockpt(m_front) != 0) {
             QTest::qFail("there is no terminal", __FILE__, __LINE__);
             return;
@@ -82,7 +82,7 @@ private:
         return now;
     }
 
-    int m_front = -1;
+    int m_front = ::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK);
     int m_shell = -1;
     std::unique_ptr<QSocketNotifier> m_notifier;
     termios m_before = {};
