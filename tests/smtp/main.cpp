@@ -9,6 +9,7 @@
 #include "smtp/TestMishaps.h"
 #include "smtp/TestProbe.h"
 #include "smtp/TestReplyReader.h"
+#include "smtp/TestStructure.h"
 #include "smtp/TestTransaction.h"
 
 #include <QCoreApplication>
@@ -31,6 +32,6 @@ int main(int argc, char **argv)
 {
     const QCoreApplication app(argc, argv);
     return runAll<TestReplyReader, TestMailAddress, TestTransaction, TestHeaders, TestMime,
-                  TestContract, TestClient, TestDialogue, TestMishaps, TestEncryption, TestLogin,
-                  TestProbe>(argc, argv);
+                  TestStructure, TestContract, TestClient, TestDialogue, TestMishaps,
+                  TestEncryption, TestLogin, TestProbe>(argc, argv);
 }
