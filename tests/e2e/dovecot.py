@@ -6,7 +6,7 @@ import subprocess
 from contextlib import ExitStack
 
 from endtoend import SOURCES
-from mail_servers import DELIVERER, OWNER, PASSWORD, USER, MailServer
+from mail_servers import DELIVERER, OWNER, PASSWORD, SUBMISSION_DOOR, TLS_DOOR, USER, MailServer
 
 GROUP = "games"
 
@@ -17,6 +17,7 @@ class Dovecot(MailServer):
     """
 
     packages = ("dovecot-core", "dovecot-submissiond")
+    usual_doors = (TLS_DOOR, SUBMISSION_DOOR)
 
     def start(self):
         self.relay = subprocess.Popen(

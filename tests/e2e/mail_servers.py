@@ -83,6 +83,8 @@ class MailServer:
 
     # The packages it is made of, its own first.
     packages = ()
+    # The ports that it has where it serves a provider's customers.
+    usual_doors = DOORS
 
     def __init__(self, packages, folder, setup=None):
         self.files = [unpacked(name, packages) for name in self.packages]

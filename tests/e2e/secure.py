@@ -16,6 +16,7 @@ from mail_servers import DOMAIN, DOORS, PASSWORD, USER, Setup, unpacked
 from own_machine import ADDRESS, CLIENT, HOST, enter
 from postfix import Postfix
 
+SERVERS = (Postfix, Exim, Dovecot)
 PACKAGES = WORK / "packages"
 CERTIFICATES = WORK / "certificates"
 
@@ -25,7 +26,7 @@ def prepare():
     if not (CERTIFICATES / "ca.pem").exists():
         maker = SOURCES / "tests" / "support" / "make-certificates"
         subprocess.run([maker, CERTIFICATES, ADDRESS], check=True)
-    for server in (Postfix, Exim, Dovecot):
+    for server in SERVERS:
         for package in server.packages:
             unpacked(package, PACKAGES)
     enter(CERTIFICATES / "ca.pem", [PACKAGES / name for name in Dovecot.packages])
