@@ -6,7 +6,9 @@ import unittest
 from email import policy
 
 from endtoend import WORK, EndToEnd, rows
-from mail_servers import DOMAIN, Exim, Postfix
+from exim import Exim
+from mail_servers import DOMAIN
+from postfix import Postfix
 
 PACKAGES = WORK / "packages"
 

@@ -10,6 +10,7 @@
 #include "smtp/TestProbe.h"
 #include "smtp/TestReplyReader.h"
 #include "smtp/TestServerReportText.h"
+#include "smtp/TestStructure.h"
 #include "smtp/TestTransaction.h"
 
 #include <QCoreApplication>
@@ -34,4 +35,6 @@ int main(int argc, char **argv)
     return runAll<TestReplyReader, TestMailAddress, TestTransaction, TestHeaders, TestMime,
                   TestContract, TestClient, TestDialogue, TestMishaps, TestEncryption, TestLogin,
                   TestProbe, TestServerReportText>(argc, argv);
+                  TestStructure, TestContract, TestClient, TestDialogue, TestMishaps,
+                  TestEncryption, TestLogin, TestProbe>(argc, argv);
 }

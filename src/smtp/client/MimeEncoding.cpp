@@ -95,18 +95,6 @@ void setParameter(GMimeParamList *list, const char *name, const QString &value)
     g_mime_param_set_charset(g_mime_param_list_get_parameter(list, name), "utf-8");
 }
 
-QByteArray encoded(GMimeContentEncoding encoding, const QByteArray &bytes)
-{
-    GMimeEncoding state;
-    g_mime_encoding_init_encode(&state, encoding);
-    const auto size = static_cast<std::size_t>(bytes.size());
-    QByteArray result(static_cast<qsizetype>(g_mime_encoding_outlen(&state, size)),
-                      Qt::Uninitialized);
-    result.resize(static_cast<qsizetype>(
-        g_mime_encoding_flush(&state, bytes.constData(), size, result.data())));
-    return withCrLf(result);
-}
-
 } // namespace
 
 QString withoutControls(const QString &text)
@@ -169,10 +157,50 @@ QByteArray fileHeaders(const QByteArray &type, const QByteArray &disposition,
 
 QByteArray quotedPrintable(const QByteArray &text)
 {
-    return encoded(GMIME_CONTENT_ENCODING_QUOTEDPRINTABLE, text);
+    // RFC 2045, section 6.7: the "=" of a line that goes on counts.
+    constexpr qsizetype LongestLine = 76;
+    constexpr QByteArrayView Digits = "0123456789ABCDEF";
+    const auto endsLine = [&](qsizetype at) {
+        return at + 1 < text.size() && text[at + 1] == '\n';
+    };
+    QByteArray result;
+    result.reserve(text.size() + text.size() / 4);
+    qsizetype begin = 0; // of the line in the result
+    const auto breakLine = [&](const char *with) {
+        result += with;
+        begin = result.size();
+    };
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const char c = text[at];
+        if (c == '\n') {
+            breakLine("\r\n");
+            continue;
+        }
+        const bool isBlank = c == ' ' || c == '\t';
+        const bool stands = isBlank ? !endsLine(at) : c > ' ' && c < '\x7f' && c != '=';
+        const qsizetype room = LongestLine - (result.size() - begin) - (endsLine(at) ? 0 : 1);
+        if (room < (stands ? 1 : 3))
+            breakLine("=\r\n");
+        if (stands) {
+            result += c;
+        } else {
+            const auto byte = static_cast<uchar>(c);
+            ((result += '=') += Digits[byte / 16]) += Digits[byte % 16];
+        }
+    }
+    if (result.size() > begin)
+        breakLine("=\r\n"); // the text's last line has no end
+    return result;
 }
 
 QByteArray base64Lines(const QByteArray &bytes)
 {
-    return encoded(GMIME_CONTENT_ENCODING_BASE64, bytes);
+    GMimeEncoding state;
+    g_mime_encoding_init_encode(&state, GMIME_CONTENT_ENCODING_BASE64);
+    const auto size = static_cast<std::size_t>(bytes.size());
+    QByteArray result(static_cast<qsizetype>(g_mime_encoding_outlen(&state, size)),
+                      Qt::Uninitialized);
+    result.resize(static_cast<qsizetype>(
+        g_mime_encoding_flush(&state, bytes.constData(), size, result.data())));
+    return withCrLf(result);
 }
