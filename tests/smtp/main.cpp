@@ -33,8 +33,6 @@ int main(int argc, char **argv)
 {
     const QCoreApplication app(argc, argv);
     return runAll<TestReplyReader, TestMailAddress, TestTransaction, TestHeaders, TestMime,
-                  TestContract, TestClient, TestDialogue, TestMishaps, TestEncryption, TestLogin,
-                  TestProbe, TestServerReportText>(argc, argv);
                   TestStructure, TestContract, TestClient, TestDialogue, TestMishaps,
-                  TestEncryption, TestLogin, TestProbe>(argc, argv);
+                  TestEncryption, TestLogin, TestProbe, TestServerReportText>(argc, argv);
 }
