@@ -38,7 +38,7 @@ CheckCommand::CheckCommand(const CheckOptions &options, const CliSurroundings &f
 void CheckCommand::start()
 {
     if (!m_project.isWhole()) {
-        Q_EMIT finished(ExitCode::Refused);
+        end(ExitCode::Refused);
     } else if (m_options.offline) {
         m_preflight.look();
         report();
@@ -50,14 +50,15 @@ void CheckCommand::start()
 void CheckCommand::interrupt()
 {
     m_preflight.giveUp();
-    Q_EMIT finished(ExitCode::Interrupted);
+    end(ExitCode::Interrupted);
 }
 
 void CheckCommand::report()
 {
     const QList<Finding> &findings = m_preflight.findings();
     for (const Finding &finding : findings)
-        m_output.result(wordFor(finding.kind) + QLatin1String(": ") + oneLine(finding.text));
+        m_output.result(wordFor(finding.kind) + QLatin1String(": ") +
+                        withVisibleControls(finding.text));
     if (findings.isEmpty()) {
         const RecipientList &recipients = m_project.workspace.recipients;
         m_output.result(QStringLiteral("Nothing to object: %1 of %2 recipients are checked.")
@@ -67,5 +68,5 @@ void CheckCommand::report()
     const bool isAdviceAlone =
         std::all_of(findings.begin(), findings.end(),
                     [](const Finding &finding) { return finding.kind == Finding::Kind::Advice; });
-    Q_EMIT finished(isAdviceAlone ? ExitCode::Success : ExitCode::Refused);
+    end(isAdviceAlone ? ExitCode::Success : ExitCode::Refused);
 }

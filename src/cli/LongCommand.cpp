@@ -1,1 +1,9 @@
-#include "cli/LongCommand.h" // the signal's code is generated from the header
+#include "cli/LongCommand.h"
+
+#include <utility>
+
+void LongCommand::end(ExitCode code)
+{
+    if (!std::exchange(m_hasEnded, true))
+        Q_EMIT finished(code);
+}

@@ -19,4 +19,12 @@ public:
 Q_SIGNALS:
     /// The last signal of a command; comes once.
     void finished(ExitCode code);
+
+protected:
+    /// Says so, unless it was said before.
+    void end(ExitCode code);
+    [[nodiscard]] bool hasEnded() const { return m_hasEnded; }
+
+private:
+    bool m_hasEnded = false;
 };

@@ -96,7 +96,7 @@ bool SendCommand::leaveOutThoseSent()
 
 void SendCommand::begun()
 {
-    if (m_finished)
+    if (hasEnded())
         return;
     const RunState state = m_workspace.form.runState();
     if (state == RunState::Idle || state == RunState::Paused) {
@@ -158,7 +158,7 @@ ExitCode SendCommand::codeOfEndedRun() const
 
 void SendCommand::endRun(ExitCode code)
 {
-    if (!m_running || m_finished)
+    if (!m_running || hasEnded())
         return;
     m_running = false;
     const auto &rows = m_workspace.recipients.rows();
@@ -187,7 +187,7 @@ void SendCommand::writeBack(ExitCode code)
 
 void SendCommand::interrupt()
 {
-    if (m_finished)
+    if (hasEnded())
         return;
     if (!m_running) {
         finish(ExitCode::Interrupted);
@@ -205,7 +205,7 @@ void SendCommand::interrupt()
     m_workspace.projectFile.SaveProject(m_options.project, [this](bool saved) {
         // The message was perhaps the last one: the event that ends the run comes first.
         m_prompts.whenQuiet([this, saved] {
-            if (m_finished)
+            if (hasEnded())
                 return;
             summarize(ExitCode::Interrupted);
             finish(saved ? ExitCode::Interrupted : ExitCode::SessionError);
@@ -234,11 +234,10 @@ void SendCommand::summarize(ExitCode code)
 
 void SendCommand::finish(ExitCode code)
 {
-    if (m_finished)
+    if (hasEnded())
         return;
-    m_finished = true;
     m_running = false;
     m_output.clearProgress();
     m_output.flush();
-    Q_EMIT finished(code);
+    end(code);
 }

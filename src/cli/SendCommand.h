@@ -40,7 +40,6 @@ private:
     bool m_resumed = false;
     bool m_running = false;
     bool m_interrupted = false;
-    bool m_finished = false;
     int m_total = 0;
     int m_sent = 0;
     int m_refused = 0;

@@ -34,14 +34,14 @@ void ServerCommand::start()
 void ServerCommand::interrupt()
 {
     m_probe.giveUp();
-    Q_EMIT finished(ExitCode::Interrupted);
+    end(ExitCode::Interrupted);
 }
 
 void ServerCommand::report(const ServerReport &report)
 {
     for (const ReportLine &line : linesOf(report)) {
         m_output.result(wordFor(line.kind) + QLatin1String("  ") + line.label +
-                        QLatin1String(": ") + oneLine(line.text));
+                        QLatin1String(": ") + withVisibleControls(line.text));
     }
-    Q_EMIT finished(report.failure.isEmpty() ? ExitCode::Success : ExitCode::SessionError);
+    end(report.failure.isEmpty() ? ExitCode::Success : ExitCode::SessionError);
 }

@@ -38,7 +38,7 @@ void TestCommand::start()
 {
     const Workspace &workspace = m_project.workspace;
     if (!m_project.isWhole() || (m_options.row && !m_project.hasRow(*m_options.row, m_output))) {
-        Q_EMIT finished(ExitCode::Refused);
+        end(ExitCode::Refused);
         return;
     }
     const int first = std::min(1, workspace.recipients.count());
@@ -49,15 +49,15 @@ void TestCommand::start()
 void TestCommand::interrupt()
 {
     m_test.giveUp();
-    Q_EMIT finished(ExitCode::Interrupted);
+    end(ExitCode::Interrupted);
 }
 
 void TestCommand::report(const QString &text)
 {
     const ExitCode code = codeOf(m_test.outcome());
     if (code == ExitCode::Success || code == ExitCode::SomeRefused)
-        m_output.result(oneLine(text));
+        m_output.result(withVisibleControls(text));
     else
-        m_output.message(oneLine(text));
-    Q_EMIT finished(code);
+        m_output.message(withVisibleControls(text));
+    end(code);
 }

@@ -110,7 +110,7 @@ QList<ReportLine> linesOf(const ServerReport &report)
     }
     if (!report.address.isEmpty()) {
         add(Kind::Good, Texts::tr("Connection"),
-            Texts::tr("%1, port %2").arg(report.address).arg(report.server.port));
+            Texts::tr("%1, port %2").arg(report.address, QString::number(report.server.port)));
     }
     if (!report.greeting.isEmpty())
         add(Kind::Good, Texts::tr("Greeting"), report.greeting);

@@ -49,13 +49,14 @@ void TestServerCommand::aServerThatEndsEarlyIsAnError()
     QCOMPARE(rig.results.lines(), QStringList{u"bad   Result: there is no server of that name"_s});
 }
 
-void TestServerCommand::linesOfTheServerStayLines()
+void TestServerCommand::theServersWordsCannotDriveTheTerminal()
 {
     ServerRig rig;
     ServerReport report;
-    report.failure = u"no\r\nok    Result: yes"_s;
+    report.failure = u"no\r\nok    Result: \x1b[1myes"_s;
     rig.probe.raiseFinished(report);
-    QCOMPARE(rig.results.lines().size(), 1);
+    QCOMPARE(rig.results.lines(),
+             QStringList{uR"(bad   Result: no\x0d\x0aok    Result: \x1b[1myes)"_s});
 }
 
 void TestServerCommand::ctrlCGivesItUp()
@@ -64,4 +65,12 @@ void TestServerCommand::ctrlCGivesItUp()
     rig.command->interrupt();
     QVERIFY(!rig.probe.isRunning());
     QCOMPARE(rig.exitCodes, QList{ExitCode::Interrupted});
+}
+
+void TestServerCommand::ctrlCBehindTheEndChangesNothing()
+{
+    ServerRig rig;
+    rig.probe.raiseFinished(rig.probe.goodReport());
+    rig.command->interrupt();
+    QCOMPARE(rig.exitCodes, QList{ExitCode::Success});
 }

@@ -9,6 +9,7 @@ class TestServerCommand : public QObject
 private Q_SLOTS:
     void aServerThatIsWellIsSaidStepByStep();
     void aServerThatEndsEarlyIsAnError();
-    void linesOfTheServerStayLines();
+    void theServersWordsCannotDriveTheTerminal();
     void ctrlCGivesItUp();
+    void ctrlCBehindTheEndChangesNothing();
 };

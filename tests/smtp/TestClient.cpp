@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTcpServer>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QTest>
 
 #include <memory>
@@ -303,6 +304,20 @@ void TestClient::compose()
     QCOMPARE(dialogue.client.compose().error(),
              u"the address has no \"@\" between a name and a domain"_s);
     QVERIFY(dialogue.events().isEmpty());
+}
+
+void TestClient::composingBeginsANewSetOfInlineFiles()
+{
+    QTemporaryFile picture;
+    QVERIFY(picture.open());
+    Dialogue dialogue;
+    dialogue.setMessage();
+    const QString first = dialogue.client.AddRelatedFile(picture.fileName());
+    dialogue.client.HtmlBody = u"<img src=\""_s + first + u"\">"_s;
+    QVERIFY(dialogue.client.compose()->contains("Content-ID"));
+    QVERIFY(dialogue.client.compose()->contains("Content-ID")); // it stays until the next one
+    QVERIFY(!dialogue.client.AddRelatedFile(picture.fileName()).isEmpty());
+    QVERIFY(!dialogue.client.compose()->contains("Content-ID"));
 }
 
 void TestClient::fullHostName()

@@ -28,5 +28,6 @@ private Q_SLOTS:
     void quitIsNotWaitedFor();
     void clientIsDestroyedAtAnyTime();
     void compose();
+    void composingBeginsANewSetOfInlineFiles();
     void fullHostName();
 };

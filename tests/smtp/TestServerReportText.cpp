@@ -106,6 +106,14 @@ void TestServerReportText::aConnectionNamesAddressPortAndGreeting()
                           u"+Greeting | mail.example.org ESMTP"_s}));
 }
 
+void TestServerReportText::anAddressWithAScopeStaysWhole()
+{
+    ServerReport report = connected();
+    report.address = u"fe80::1%2"_s;
+    QCOMPARE(labelled(report, u"Connection"_s),
+             QStringList{u"+Connection | fe80::1%2, port 587"_s});
+}
+
 void TestServerReportText::everythingIsSaidOnceItIsReady()
 {
     const QString fingerprint = QStringList(QList<QString>(32, u"AB"_s)).join(u':');

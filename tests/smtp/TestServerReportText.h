@@ -14,6 +14,7 @@ private Q_SLOTS:
     void aNameThatIsNotFoundIsTheOnlyLine();
     void aServerThatIsFoundHasItsAddresses();
     void aConnectionNamesAddressPortAndGreeting();
+    void anAddressWithAScopeStaysWhole();
     void everythingIsSaidOnceItIsReady();
     void aLineWithoutEncryptionIsNoted();
     void certificates_data();
