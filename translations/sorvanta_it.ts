@@ -412,6 +412,37 @@
     </message>
 </context>
 <context>
+    <name>frmAccesso</name>
+    <message>
+        <source>Server login</source>
+        <translation>Accesso al server</translation>
+    </message>
+    <message>
+        <source>It did not accept the last login:</source>
+        <translation>Non ha accettato l&apos;ultimo accesso:</translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation>Utente:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>Remember in the keyring</source>
+        <translation>Ricorda nel portachiavi</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>The server %1 asks who you are.</source>
+        <translation>Il server %1 chiede chi è Lei.</translation>
+    </message>
+</context>
+<context>
     <name>frmEditor</name>
     <message>
         <source>Select Editor</source>

@@ -4,6 +4,7 @@
 #include "TestDigitsEdit.h"
 #include "TestDrops.h"
 #include "TestHtmlView.h"
+#include "TestLoginBox.h"
 #include "TestMainWindow.h"
 #include "TestPreview.h"
 #include "TestRecipientList.h"
@@ -16,5 +17,5 @@ int main(int argc, char **argv)
 {
     return runTestsIn<QApplication, TestBoxes, TestControls, TestDigitsEdit, TestWindowPrompts,
                       TestRecipientList, TestMainWindow, TestDialogs, TestDrops, TestHtmlView,
-                      TestPreview>(argc, argv);
+                      TestPreview, TestLoginBox>(argc, argv);
 }
