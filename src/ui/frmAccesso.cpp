@@ -57,5 +57,5 @@ void frmAccesso::showRefusal(const QString &refusal)
     const QRect line(0, 0, minimumWidth() * 3 / 4, metrics.height());
     const int needed = metrics.boundingRect(line, Qt::TextWrapAnywhere, refusal).height();
     const int most = MostRefusalLines * metrics.lineSpacing();
-    m_ui->txtRefusal->setFixedHeight(qMin(needed, most) + 2 * margin);
+    m_ui->txtRefusal->setFixedHeight(qMin(needed, most) + metrics.lineSpacing() / 2 + 2 * margin);
 }

@@ -322,7 +322,7 @@ void TestAccountPage::reportGrowsAsItComes()
     const QSignalSpy changes(rig.page.get(), &AccountPage::changed);
     ServerReport report;
     report.reached = ServerStep::Connected;
-    rig.probe.raiseProgress(report);
+    rig.probe.raiseProgressed(report);
     QCOMPARE(rig.page->report()->reached, ServerStep::Connected);
     QVERIFY(rig.page->isTesting());
     report.reached = ServerStep::Ready;
@@ -338,10 +338,10 @@ void TestAccountPage::stoppedTestSaysNoMore()
 {
     Rig rig;
     rig.page->stopTest();
-    QCOMPARE(rig.probe.givenUp, 0);
+    QCOMPARE(rig.probe.timesGivenUp, 0);
     rig.test();
     rig.page->stopTest();
-    QCOMPARE(rig.probe.givenUp, 1);
+    QCOMPARE(rig.probe.timesGivenUp, 1);
     QVERIFY(!rig.page->isBusy());
 }
 
@@ -349,11 +349,11 @@ void TestAccountPage::testIsGivenUpWithThePage()
 {
     Rig rig;
     rig.page.reset();
-    QCOMPARE(rig.probe.givenUp, 0);
+    QCOMPARE(rig.probe.timesGivenUp, 0);
     rig.open();
     rig.test();
     rig.page.reset();
-    QCOMPARE(rig.probe.givenUp, 1);
+    QCOMPARE(rig.probe.timesGivenUp, 1);
 }
 
 void TestAccountPage::nothingElseBeginsDuringATest()
@@ -373,7 +373,7 @@ void TestAccountPage::refusedCertificateCanBeTrustedAndIsTestedAgain()
     rig.page->removeCertificate(Fingerprint);
     rig.test(entriesFor(u"anna"_s));
     const ServerReport report = reportWith(ServerCertificate::Standing::Refused, Fingerprint);
-    rig.probe.raiseProgress(report);
+    rig.probe.raiseProgressed(report);
     QVERIFY(!rig.page->canTrust());
     rig.probe.raiseFinished(report);
     QVERIFY(rig.page->canTrust());

@@ -1,4 +1,6 @@
+#include "TestAccountWindow.h"
 #include "TestBoxes.h"
+#include "TestCheckWindow.h"
 #include "TestControls.h"
 #include "TestDialogs.h"
 #include "TestDigitsEdit.h"
@@ -8,6 +10,7 @@
 #include "TestMainWindow.h"
 #include "TestPreview.h"
 #include "TestRecipientList.h"
+#include "TestTestMessageBox.h"
 #include "TestWindowPrompts.h"
 #include "support/RunTests.h"
 
@@ -17,5 +20,6 @@ int main(int argc, char **argv)
 {
     return runTestsIn<QApplication, TestBoxes, TestControls, TestDigitsEdit, TestWindowPrompts,
                       TestRecipientList, TestMainWindow, TestDialogs, TestDrops, TestHtmlView,
-                      TestPreview, TestLoginBox>(argc, argv);
+                      TestPreview, TestLoginBox, TestAccountWindow, TestCheckWindow,
+                      TestTestMessageBox>(argc, argv);
 }
