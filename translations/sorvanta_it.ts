@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT">
 <context>
+    <name>AccountPage</name>
+    <message>
+        <source>The settings cannot be written.</source>
+        <translation>Impossibile scrivere le impostazioni.</translation>
+    </message>
+    <message>
+        <source>Enter the user too: a password or a token belongs to somebody.</source>
+        <translation>Inserire anche l&apos;utente: una password o un token appartiene a qualcuno.</translation>
+    </message>
+</context>
+<context>
     <name>AttachmentView</name>
     <message>
         <source>File</source>
@@ -17,6 +28,21 @@
     <message>
         <source>All files (*.*)|*.*</source>
         <translation>Tutti i file (*.*)|*.*</translation>
+    </message>
+</context>
+<context>
+    <name>Companions</name>
+    <message>
+        <source>Fill in the SMTP server first.</source>
+        <translation>Prima compilare il server SMTP.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; is not a port number from 1 to 65535.</source>
+        <translation>&apos;%1&apos; non è un numero di porta da 1 a 65535.</translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation>Account</translation>
     </message>
 </context>
 <context>
@@ -73,6 +99,13 @@
     <message>
         <source>This text cannot be laid out. It is shown as it is written:</source>
         <translation>Impossibile impaginare questo testo. Viene mostrato com&apos;è scritto:</translation>
+    </message>
+</context>
+<context>
+    <name>LineList</name>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
     </message>
 </context>
 <context>
@@ -370,6 +403,21 @@
     </message>
 </context>
 <context>
+    <name>TestToSender</name>
+    <message>
+        <source>Fill in the sender&apos;s e-mail address: the test goes there.</source>
+        <translation>Compilare l&apos;indirizzo e-mail del mittente: la prova va lì.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; isn&apos;t a valid e-mail address.</source>
+        <translation>&apos;%1&apos; non è un indirizzo e-mail valido.</translation>
+    </message>
+    <message>
+        <source>Test message</source>
+        <translation>Messaggio di prova</translation>
+    </message>
+</context>
+<context>
     <name>WindowLifecycle</name>
     <message>
         <source>Save</source>
@@ -409,6 +457,255 @@
     <message>
         <source>Fax: %1</source>
         <translation>Fax: %1</translation>
+    </message>
+</context>
+<context>
+    <name>frmAccesso</name>
+    <message>
+        <source>Server login</source>
+        <translation>Accesso al server</translation>
+    </message>
+    <message>
+        <source>It did not accept the last login:</source>
+        <translation>Non ha accettato l&apos;ultimo accesso:</translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation>Utente:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>Remember in the keyring</source>
+        <translation>Ricorda nel portachiavi</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>The server %1 asks who you are.</source>
+        <translation>Il server %1 chiede chi è Lei.</translation>
+    </message>
+</context>
+<context>
+    <name>frmAccount</name>
+    <message>
+        <source>Account</source>
+        <translation>Account</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Accesso</translation>
+    </message>
+    <message>
+        <source>User:</source>
+        <translation>Utente:</translation>
+    </message>
+    <message>
+        <source>empty: asked for when the server wants a login</source>
+        <translation>vuoto: viene chiesto quando il server vuole un accesso</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Dimentica</translation>
+    </message>
+    <message>
+        <source>Forget the password</source>
+        <translation>Dimentica la password</translation>
+    </message>
+    <message>
+        <source>Token command:</source>
+        <translation>Comando per il token:</translation>
+    </message>
+    <message>
+        <source>empty: the password is used</source>
+        <translation>vuoto: si usa la password</translation>
+    </message>
+    <message>
+        <source>Encryption</source>
+        <translation>Cifratura</translation>
+    </message>
+    <message>
+        <source>Certificates that you trust although they do not verify:</source>
+        <translation>Certificati di cui Lei si fida benché non risultino validi:</translation>
+    </message>
+    <message>
+        <source>Trusted certificates</source>
+        <translation>Certificati fidati</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Remove the certificate</source>
+        <translation>Rimuovi il certificato</translation>
+    </message>
+    <message>
+        <source>What is known of the server:</source>
+        <translation>Che cosa si sa del server:</translation>
+    </message>
+    <message>
+        <source>What is known of the encryption</source>
+        <translation>Che cosa si sa della cifratura</translation>
+    </message>
+    <message>
+        <source>Forget the encryption</source>
+        <translation>Dimentica la cifratura</translation>
+    </message>
+    <message>
+        <source>Dialogue</source>
+        <translation>Dialogo</translation>
+    </message>
+    <message>
+        <source>Use PIPELINING</source>
+        <translation>Usa PIPELINING</translation>
+    </message>
+    <message>
+        <source>Use CHUNKING</source>
+        <translation>Usa CHUNKING</translation>
+    </message>
+    <message>
+        <source>Write a protocol trace</source>
+        <translation>Scrivi una traccia del protocollo</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Apri</translation>
+    </message>
+    <message>
+        <source>Open the protocol trace</source>
+        <translation>Apri la traccia del protocollo</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Prova</translation>
+    </message>
+    <message>
+        <source>Test the connection</source>
+        <translation>Prova il collegamento</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Stop the test</source>
+        <translation>Ferma la prova</translation>
+    </message>
+    <message>
+        <source>Trust this certificate</source>
+        <translation>Fidati di questo certificato</translation>
+    </message>
+    <message>
+        <source>Result of the test</source>
+        <translation>Risultato della prova</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Account of %1</source>
+        <translation>Account di %1</translation>
+    </message>
+    <message>
+        <source>Looking for a keyring...</source>
+        <translation>Ricerca di un portachiavi...</translation>
+    </message>
+    <message>
+        <source>There is no keyring here to keep a password in: it is asked for when it is needed.</source>
+        <translation>Qui non c&apos;è un portachiavi in cui conservare una password: viene chiesta quando serve.</translation>
+    </message>
+    <message>
+        <source>OK takes the password out of the keyring.</source>
+        <translation>OK toglie la password dal portachiavi.</translation>
+    </message>
+    <message>
+        <source>It is kept in the keyring. Left empty, it stays as it is.</source>
+        <translation>Si conserva nel portachiavi. Lasciata vuota, resta com&apos;è.</translation>
+    </message>
+    <message>
+        <source>offers STARTTLS on port %1: never without</source>
+        <translation>offre STARTTLS sulla porta %1: mai senza</translation>
+    </message>
+    <message>
+        <source>Good</source>
+        <translation>Bene</translation>
+    </message>
+    <message>
+        <source>Bad</source>
+        <translation>Male</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Nothing has been written yet.</source>
+        <translation>Non è stato ancora scritto nulla.</translation>
+    </message>
+    <message>
+        <source>For servers that want an access token (XOAUTH2): a program that prints it.</source>
+        <translation>Per i server che vogliono un token di accesso (XOAUTH2): un programma che lo scrive.</translation>
+    </message>
+    <message>
+        <source>Tries %1 out and sends nothing. Like OK, it keeps what is entered here.</source>
+        <translation>Prova %1 senza inviare nulla. Come OK, conserva quanto è inserito qui.</translation>
+    </message>
+</context>
+<context>
+    <name>frmCheck</name>
+    <message>
+        <source>Check before sending</source>
+        <translation>Verifica prima dell&apos;invio</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Risultati</translation>
+    </message>
+    <message>
+        <source>Check again</source>
+        <translation>Verifica di nuovo</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Start refuses</source>
+        <translation>Avvia rifiuta</translation>
+    </message>
+    <message>
+        <source>The run would fail</source>
+        <translation>L&apos;invio fallirebbe</translation>
+    </message>
+    <message>
+        <source>Start asks</source>
+        <translation>Avvia chiede</translation>
+    </message>
+    <message>
+        <source>Advice</source>
+        <translation>Consiglio</translation>
+    </message>
+    <message>
+        <source>Asking the server...</source>
+        <translation>Il server viene interrogato...</translation>
+    </message>
+    <message>
+        <source>Nothing to object.</source>
+        <translation>Niente da obiettare.</translation>
+    </message>
+    <message>
+        <source>Click on a line, or press Enter, to go where it is put right.</source>
+        <translation>Un clic su una riga, o Invio, porta dove si rimedia.</translation>
     </message>
 </context>
 <context>
@@ -459,10 +756,6 @@
     <message>
         <source>SMTP Server:</source>
         <translation>Server SMTP:</translation>
-    </message>
-    <message>
-        <source>mail.example.org or mail.example.org:2525</source>
-        <translation>mail.example.org o mail.example.org:2525</translation>
     </message>
     <message>
         <source>Subject:</source>
@@ -700,6 +993,30 @@
         <source>Preview</source>
         <translation>Anteprima</translation>
     </message>
+    <message>
+        <source>mail.example.org or mail.example.org:587</source>
+        <translation>mail.example.org o mail.example.org:587</translation>
+    </message>
+    <message>
+        <source>Login, certificates and test of this server</source>
+        <translation>Accesso, certificati e prova di questo server</translation>
+    </message>
+    <message>
+        <source>Account of the server</source>
+        <translation>Account del server</translation>
+    </message>
+    <message>
+        <source>Right mouse button or menu key: Check, Send a test to me</source>
+        <translation>Tasto destro o tasto menu: Verifica, Inviami una prova</translation>
+    </message>
+    <message>
+        <source>&amp;Check</source>
+        <translation>&amp;Verifica</translation>
+    </message>
+    <message>
+        <source>Send a &amp;test to me</source>
+        <translation>Inviami una &amp;prova</translation>
+    </message>
 </context>
 <context>
     <name>frmPreview</name>
@@ -758,6 +1075,21 @@
     <message>
         <source>This file cannot be read:</source>
         <translation>Impossibile leggere questo file:</translation>
+    </message>
+</context>
+<context>
+    <name>frmTest</name>
+    <message>
+        <source>Test message</source>
+        <translation>Messaggio di prova</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Sending a test to %1...</source>
+        <translation>Invio di una prova a %1...</translation>
     </message>
 </context>
 </TS>

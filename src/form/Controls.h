@@ -37,6 +37,7 @@ enum class Control {
     cmdHTML,
     txtEmailMittente,
     txtServer,
+    cmdAccount,
     txtOggetto,
     txtPausa,
     txtNMsg,
@@ -59,6 +60,8 @@ enum class Control {
     mnuCominciare,
     mnuContenuti,
     mnuAbout,
+    mnuCheck,
+    mnuTest,
 };
 Q_ENUM_NS(Control)
 

@@ -2,12 +2,12 @@
 
 #include "base/Lines.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
 
 FormBinding::FormBinding(Form &form, const QWidget &window)
     : m_form(form), m_objects(static_cast<std::size_t>(Controls::count()))
@@ -66,11 +66,11 @@ void FormBinding::applyRunState()
             action->setEnabled(enabled && m_commands.contains(control));
         else if (auto *const menu = qobject_cast<QMenu *>(object))
             menu->setEnabled(enabled);
-        else if (auto *const button = qobject_cast<QPushButton *>(object))
-            button->setEnabled(enabled && m_commands.contains(control));
         else if (auto *const edit = qobject_cast<QLineEdit *>(object))
             edit->setEnabled(enabled);
         else if (auto *const box = qobject_cast<QCheckBox *>(object))
             box->setEnabled(enabled);
+        else if (auto *const button = qobject_cast<QAbstractButton *>(object))
+            button->setEnabled(enabled && m_commands.contains(control));
     }
 }

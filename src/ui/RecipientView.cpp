@@ -154,11 +154,21 @@ void RecipientView::selectByState(RowState state)
             positions.push_back(position);
     }
     select(positions);
-    if (!positions.empty()) {
-        const QModelIndex first = m_model->index(positions.front() - 1, 0);
-        selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
-        scrollTo(first);
-    }
+    if (!positions.empty())
+        showCurrent(positions.front());
+}
+
+void RecipientView::goTo(int position)
+{
+    select({position});
+    showCurrent(position);
+}
+
+void RecipientView::showCurrent(int position)
+{
+    const QModelIndex row = m_model->index(position - 1, 0);
+    selectionModel()->setCurrentIndex(row, QItemSelectionModel::NoUpdate);
+    scrollTo(row);
 }
 
 QString RecipientView::selectedText() const

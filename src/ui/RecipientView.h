@@ -31,6 +31,10 @@ public:
     void select(const std::vector<int> &positions);
     /// Selects the rows of that state, whichever language its word is in.
     void selectByState(RowState state);
+    /// Makes the row at that position the current one, alone selected and in sight.
+    void goTo(int position);
+    /// The position of the current row; 0 without one.
+    [[nodiscard]] int currentPosition() const { return currentIndex().row() + 1; }
     /// The selected rows as lines of text, their columns set apart by tabs.
     [[nodiscard]] QString selectedText() const;
 
@@ -53,6 +57,7 @@ protected:
 private:
     void fillWith(const std::vector<int> &shares);
     [[nodiscard]] std::vector<int> columnWidths() const;
+    void showCurrent(int position);
     void rememberRows();
     void restoreRows();
     void follow();

@@ -4,6 +4,7 @@
 
 #include "ui/FileBox.h"
 #include "ui/MessageBox.h"
+#include "ui/frmAccesso.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -65,7 +66,7 @@ void WindowPrompts::notice(const Notice &notice)
         box->setObjectName("notice"_L1);
         return box;
     };
-    enqueue({make, [] { return true; }, true});
+    enqueue({make, [] { return true; }, Kind::Notice});
 }
 
 void WindowPrompts::ask(const Question &question, Stands stands, std::function<void(Answer)> then)
@@ -123,6 +124,22 @@ void WindowPrompts::askFile(const FileDialog &dialog, Stands stands,
     enqueue({make, stands});
 }
 
+void WindowPrompts::askLogin(const LoginBox &box, Stands stands,
+                             std::function<void(std::optional<LoginEntry>)> then)
+{
+    const auto make = [this, box, stands, then = std::move(then)]() -> QDialog * {
+        auto *login = new frmAccesso(box, m_window);
+        connect(login, &QDialog::finished, this, [this, login, stands, then](int result) {
+            std::optional<LoginEntry> entry = login->takeEntry();
+            if (result != QDialog::Accepted)
+                entry.reset();
+            post(stands, [then, entry] { then(entry); });
+        });
+        return login;
+    };
+    enqueue({make, stands, Kind::AskingBeside});
+}
+
 void WindowPrompts::enqueue(Waiting waiting)
 {
     m_waiting.push_back(std::move(waiting));
@@ -144,20 +161,23 @@ void WindowPrompts::openWaiting()
 void WindowPrompts::open(const Waiting &waiting)
 {
     QDialog *box = waiting.make();
-    m_open.push_back({box, waiting.stands, waiting.isNotice});
+    m_open.push_back({box, waiting.stands, waiting.kind});
     connect(box, &QDialog::finished, this, [this, box] {
         forget(box);
         box->deleteLater();
         openWaiting();
         activateLast();
     });
-    box->open();
+    if (waiting.kind == Kind::AskingBeside)
+        box->show();
+    else
+        box->open();
 }
 
 bool WindowPrompts::noticeIsOpen() const
 {
     return std::any_of(m_open.begin(), m_open.end(),
-                       [](const Open &open) { return open.isNotice && open.box; });
+                       [](const Open &open) { return open.kind == Kind::Notice && open.box; });
 }
 
 // Also boxes that went away with their window.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "prompts/Prompts.h"
+#include "prompts/LoginPrompt.h"
 
 #include <QDialog>
 #include <QObject>
@@ -10,9 +10,9 @@
 #include <deque>
 #include <vector>
 
-/// The boxes of the program over a window. Their object names are "notice", "question", "inputBox"
-/// and "fileDialog".
-class WindowPrompts : public QObject, public Prompts
+/// The boxes of the program over a window. Their object names are "notice", "question", "inputBox",
+/// "fileDialog" and "frmAccesso"; the last, for logins, does not block the window.
+class WindowPrompts : public QObject, public Prompts, public LoginPrompt
 {
     Q_OBJECT
 
@@ -32,6 +32,8 @@ public:
     void askText(const InputBox &box, Stands stands, std::function<void(QString)> then) override;
     void askFile(const FileDialog &dialog, Stands stands,
                  std::function<void(QString)> then) override;
+    void askLogin(const LoginBox &box, Stands stands,
+                  std::function<void(std::optional<LoginEntry>)> then) override;
 
 public Q_SLOTS:
     /// Closes the boxes whose answer does not count any more. To be called through a queued
@@ -39,18 +41,19 @@ public Q_SLOTS:
     void closeStale();
 
 private:
+    enum class Kind { Notice, Asking, AskingBeside };
     /// A box that has not been opened yet.
     struct Waiting
     {
         std::function<QDialog *()> make;
         Stands stands;
-        bool isNotice = false;
+        Kind kind = Kind::Asking;
     };
     struct Open
     {
         QPointer<QDialog> box;
         Stands stands;
-        bool isNotice = false;
+        Kind kind = Kind::Asking;
     };
 
     void enqueue(Waiting waiting);

@@ -37,6 +37,7 @@ frmMain::frmMain(const WindowParts &parts)
       m_shell(parts.shell),
       m_programFolder(parts.programFolder),
       m_helpFolder(parts.helpFolder),
+      m_companions(parts, *this),
       m_editors(m_form, m_workspace.messageFiles, m_workspace.windowSettings, parts.prompts,
                 parts.shell),
       m_lifecycle(m_form, m_workspace.projectCommands, m_workspace.projectFile,
@@ -65,6 +66,8 @@ frmMain::frmMain(const WindowParts &parts)
 
     connect(&m_form, &Form::runStateChanged, this, &frmMain::applyRunState);
     connect(&m_form, &Form::situationChanged, this, &frmMain::showProgress);
+    connect(&m_companions, &Companions::wanted, this, &frmMain::goTo);
+    connect(&m_companions, &Companions::gaveUp, this, &frmMain::gaveUp);
     connect(&m_form, &Form::captionChanged, this, [this] { setWindowTitle(m_form.caption()); });
     m_lifecycle.beforeUnload = [this] {
         m_place.save(*this, *m_ui->splitter, *m_ui->lstDestinatari->header());
@@ -106,10 +109,11 @@ void frmMain::showPictures()
 {
     struct Picture
     {
-        QPushButton *button;
+        QAbstractButton *button;
         const char *name;
     };
     const std::array pictures{
+        Picture{m_ui->cmdAccount, "account"},
         Picture{m_ui->cmdNuovo, "new"},
         Picture{m_ui->cmdApri, "open"},
         Picture{m_ui->cmdSave, "save"},
@@ -136,8 +140,8 @@ void frmMain::command(Control control, std::function<void()> procedure)
 {
     m_binding.markAsCommand(control);
     QObject *const object = m_binding.objectOf(control);
-    if (auto *const button = qobject_cast<QPushButton *>(object))
-        connect(button, &QPushButton::clicked, this, std::move(procedure));
+    if (auto *const button = qobject_cast<QAbstractButton *>(object))
+        connect(button, &QAbstractButton::clicked, this, std::move(procedure));
     else if (auto *const action = qobject_cast<QAction *>(object))
         connect(action, &QAction::triggered, this, std::move(procedure));
 }
@@ -166,6 +170,9 @@ void frmMain::bindCommands()
     command(Control::mnuAbout, [this] { mnuAbout_Click(); });
 
     command(Control::cmdAvvio, [&w] { w.engine.cmdAvvio_Click(); });
+    command(Control::mnuCheck, [this] { m_companions.mnuCheck_Click(); });
+    command(Control::mnuTest, [this] { mnuTest_Click(); });
+    command(Control::cmdAccount, [this] { m_companions.cmdAccount_Click(); });
     command(Control::cmdPausa, [&w] { w.engine.cmdPausa_Click(); });
     command(Control::cmdStop, [&w] { w.engine.cmdStop_Click(); });
 
@@ -339,6 +346,29 @@ void frmMain::addPreviewTo(QLineEdit &box, bool html)
         preview->setEnabled(!box.text().isEmpty());
         menu->popup(box.mapToGlobal(place));
     });
+}
+
+void frmMain::mnuTest_Click()
+{
+    const int current = m_ui->lstDestinatari->currentPosition();
+    m_companions.mnuTest_Click(current > 0 ? current : qMin(1, m_workspace.recipients.count()));
+}
+
+// A row that has been removed meanwhile is nowhere.
+void frmMain::goTo(const Finding &finding)
+{
+    auto *target =
+        finding.control ? qobject_cast<QWidget *>(m_binding.objectOf(*finding.control)) : nullptr;
+    if (finding.row != 0) {
+        const int position = m_workspace.recipients.positionOf(finding.row);
+        target = position == 0 ? nullptr : m_ui->lstDestinatari;
+        if (target != nullptr)
+            m_ui->lstDestinatari->goTo(position);
+    }
+    if (target == nullptr)
+        return;
+    target->setFocus();
+    activateWindow();
 }
 
 void frmMain::mnuEditor_Click()

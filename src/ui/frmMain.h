@@ -1,10 +1,10 @@
 #pragma once
 
-#include "base/Shell.h"
 #include "project/EditorCommands.h"
 #include "project/WindowLifecycle.h"
-#include "project/Workspace.h"
+#include "ui/Companions.h"
 #include "ui/FormBinding.h"
+#include "ui/WindowParts.h"
 #include "ui/WindowPlace.h"
 
 #include <QMainWindow>
@@ -20,22 +20,6 @@ namespace Ui {
 class frmMain;
 }
 
-/// What a main window works with. All of it outlives the window.
-struct WindowParts
-{
-    Workspace &workspace;
-    Prompts &prompts;
-    Shell &shell;
-    const CodePage &codePage;
-    QString programFolder;
-    /// The folder that holds the help pages.
-    QString helpFolder;
-    /// Ends the process at once.
-    std::function<void()> endProcess;
-    /// Where the window's size is kept.
-    QString placeFile;
-};
-
 /// The main window with English texts: a view of the workspace. Each of its controls has its name
 /// in the form, and each command is a procedure of the core.
 class frmMain : public QMainWindow
@@ -50,6 +34,10 @@ public:
     void Form_Load(const QString &projectPath);
     /// The desktop's session ends, or the program was asked to end.
     void endSession();
+
+Q_SIGNALS:
+    /// A page, a check or a test was given up: a question that it asked may not count any more.
+    void gaveUp();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -69,6 +57,8 @@ private:
     void mnuAbout_Click();
     void openHelpPage(const QString &page);
     void openPreview();
+    void mnuTest_Click();
+    void goTo(const Finding &finding);
     void addPreviewTo(QLineEdit &box, bool html);
 
     std::unique_ptr<Ui::frmMain> m_ui;
@@ -78,6 +68,7 @@ private:
     Shell &m_shell;
     QString m_programFolder;
     QString m_helpFolder;
+    Companions m_companions;
     EditorCommands m_editors;
     WindowLifecycle m_lifecycle;
     WindowPlace m_place;

@@ -1,3 +1,4 @@
+#include "TestAccountPage.h"
 #include "TestAccountValues.h"
 #include "TestAccounts.h"
 #include "TestCertificateQuestion.h"
@@ -11,5 +12,6 @@
 int main(int argc, char **argv)
 {
     return runTests<TestAccounts, TestAccountValues, TestNetrc, TestCommandOutput, TestLoginChain,
-                    TestTraceFile, TestCertificateQuestion, TestSecrets>(argc, argv);
+                    TestTraceFile, TestCertificateQuestion, TestSecrets, TestAccountPage>(argc,
+                                                                                          argv);
 }

@@ -66,7 +66,8 @@ ControlSet lockedByStart()
                   Control::cmdApri,         Control::cmdSave,        Control::cmdSaveAs,
                   Control::cmdAvvio,        Control::txtControl,     Control::txtHTML,
                   Control::cmdAdd,          Control::cmdRemove,      Control::cmdCheckAll,
-                  Control::cmdUncheckAll,   Control::lstDestinatari, Control::lstAllegati});
+                  Control::cmdUncheckAll,   Control::lstDestinatari, Control::lstAllegati,
+                  Control::cmdAccount,      Control::mnuCheck,       Control::mnuTest});
 }
 
 /// What a start enables.
@@ -78,7 +79,8 @@ ControlSet enabledByStart()
 /// What a pause enables, of what a start has locked.
 ControlSet enabledByPause()
 {
-    return setOf({Control::cmdNuovo, Control::cmdApri, Control::cmdSave, Control::cmdSaveAs});
+    return setOf({Control::cmdNuovo, Control::cmdApri, Control::cmdSave, Control::cmdSaveAs,
+                  Control::cmdAccount});
 }
 
 } // namespace
@@ -113,11 +115,11 @@ void TestRunState::startAndEndUndoEachOther()
     QCOMPARE(namesOf(running - idle), u"cmdPausa cmdStop"_s);
 }
 
-void TestRunState::pauseGivesBackTheProjectCommandsAlone()
+void TestRunState::pauseGivesBackTheProjectCommandsAndTheAccountAlone()
 {
     const ControlSet running = enabledIn(RunState::Sending);
     const ControlSet paused = enabledIn(RunState::Paused);
-    QCOMPARE(namesOf(paused - running), u"cmdApri cmdNuovo cmdSave cmdSaveAs"_s);
+    QCOMPARE(namesOf(paused - running), u"cmdAccount cmdApri cmdNuovo cmdSave cmdSaveAs"_s);
     QCOMPARE(namesOf(running - paused), QString());
 }
 

@@ -11,7 +11,7 @@ private Q_SLOTS:
     void controlsThatCanBeUsed_data();
     void controlsThatCanBeUsed();
     void startAndEndUndoEachOther();
-    void pauseGivesBackTheProjectCommandsAlone();
+    void pauseGivesBackTheProjectCommandsAndTheAccountAlone();
     void timersOfEachState_data();
     void timersOfEachState();
     void pauseWords();

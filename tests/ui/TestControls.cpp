@@ -84,6 +84,7 @@ const std::array Widgets{
     Line{"cmdEmail", "QPushButton", "Browse...", "Sfoglia..."},
     Line{"txtEmailMittente", "QLineEdit"},
     Line{"txtServer", "QLineEdit"},
+    Line{"cmdAccount", "QToolButton"},
     Line{"txtOggetto", "QLineEdit"},
     Line{"txtPausa", "DigitsEdit"},
     Line{"txtNMsg", "DigitsEdit"},
@@ -124,17 +125,23 @@ const std::array Entries{
     Line{"mnuAbout", "entry", "&About...", "&Informazioni su Sorvanta..."},
 };
 
+// The menu of Start, opened by the right mouse button or the menu key.
+const std::array EntriesOfStart{
+    Line{"mnuCheck", "entry", "&Check", "&Verifica"},
+    Line{"mnuTest", "entry", "Send a &test to me", "Inviami una &prova"},
+};
+
 // From top to bottom and from left to right: the message, the recipients, the run.
 const QStringList ReadingOrder{
-    u"txtMittente"_s,    u"txtEmailMittente"_s, u"txtServer"_s,      u"txtOggetto"_s,
-    u"txtEmail"_s,       u"cmdEmail"_s,         u"cmdPreviewTXT"_s,  u"cmdCancellaTXT"_s,
-    u"txtHTML"_s,        u"cmdHTML"_s,          u"cmdPreviewHTML"_s, u"cmdCancellaHTML"_s,
-    u"chkRicevuta"_s,    u"chkMultiSend"_s,     u"txtNMsg"_s,        u"txtPausa"_s,
-    u"lstAllegati"_s,    u"cmdAggiungi"_s,      u"cmdRimuovi"_s,     u"txtDestinatari"_s,
-    u"cmdDestinatari"_s, u"cmdFromRubrica"_s,   u"lstDestinatari"_s, u"cmdAdd"_s,
-    u"cmdRemove"_s,      u"cmdCheckAll"_s,      u"cmdUncheckAll"_s,  u"txtControl"_s,
-    u"cmdNuovo"_s,       u"cmdApri"_s,          u"cmdSave"_s,        u"cmdSaveAs"_s,
-    u"cmdAvvio"_s,       u"cmdPausa"_s,         u"cmdStop"_s,
+    u"txtMittente"_s,     u"txtEmailMittente"_s, u"txtServer"_s,      u"cmdAccount"_s,
+    u"txtOggetto"_s,      u"txtEmail"_s,         u"cmdEmail"_s,       u"cmdPreviewTXT"_s,
+    u"cmdCancellaTXT"_s,  u"txtHTML"_s,          u"cmdHTML"_s,        u"cmdPreviewHTML"_s,
+    u"cmdCancellaHTML"_s, u"chkRicevuta"_s,      u"chkMultiSend"_s,   u"txtNMsg"_s,
+    u"txtPausa"_s,        u"lstAllegati"_s,      u"cmdAggiungi"_s,    u"cmdRimuovi"_s,
+    u"txtDestinatari"_s,  u"cmdDestinatari"_s,   u"cmdFromRubrica"_s, u"lstDestinatari"_s,
+    u"cmdAdd"_s,          u"cmdRemove"_s,        u"cmdCheckAll"_s,    u"cmdUncheckAll"_s,
+    u"txtControl"_s,      u"cmdNuovo"_s,         u"cmdApri"_s,        u"cmdSave"_s,
+    u"cmdSaveAs"_s,       u"cmdAvvio"_s,         u"cmdPausa"_s,       u"cmdStop"_s,
 };
 
 QString lineOf(const QString &name, const QString &kind, const QString &caption)
@@ -410,6 +417,9 @@ void TestControls::theMenusHoldTheirEntriesInOrder()
     QStringList shown;
     appendEntries(shown, rig.window->menuBar()->actions());
     QCOMPARE(shown, linesOf(Entries, language));
+    shown.clear();
+    appendEntries(shown, rig.get<QPushButton>("cmdAvvio").actions());
+    QCOMPARE(shown, linesOf(EntriesOfStart, language));
 }
 
 void TestControls::bothWindowsHoldTheSame()
@@ -444,6 +454,8 @@ void TestControls::whatCanBeOperatedIsAControl()
     for (const Line &line : Widgets)
         tables.append(QString::fromLatin1(line.name));
     for (const Line &line : Entries)
+        tables.append(QString::fromLatin1(line.name));
+    for (const Line &line : EntriesOfStart)
         tables.append(QString::fromLatin1(line.name));
     for (const QString &control : controls)
         QCOMPARE(tables.count(control), 1);

@@ -199,14 +199,7 @@ void TestDialogs::sizeAndColumnsAreRemembered()
     rig.window->resize(1230, 700);
     rig.get<RecipientView>("lstDestinatari").setColumnWidth(1, 111);
     rig.window->close();
-    frmMain again({rig.core->w,
-                   rig.core->prompts,
-                   rig.shell,
-                   rig.core->codePage,
-                   {},
-                   {},
-                   [] {},
-                   rig.core->folder.filePath(u"window.ini"_s)});
+    frmMain again(rig.parts());
     again.Form_Load({});
     again.show();
     QVERIFY(QTest::qWaitForWindowExposed(&again));
@@ -217,10 +210,9 @@ void TestDialogs::sizeAndColumnsAreRemembered()
 void TestDialogs::damagedMemoryOfTheWindowIsIgnored()
 {
     WindowRig rig;
-    const QString file = rig.core->file(
-        u"window.ini"_s, "[General]\ngeometry=@ByteArray(rubbish)\ncolumns=-5, 99999999\n");
-    frmMain again(
-        {rig.core->w, rig.core->prompts, rig.shell, rig.core->codePage, {}, {}, [] {}, file});
+    rig.core->file(u"window.ini"_s,
+                   "[General]\ngeometry=@ByteArray(rubbish)\ncolumns=-5, 99999999\n");
+    frmMain again(rig.parts());
     again.Form_Load({});
     again.show();
     QVERIFY(QTest::qWaitForWindowExposed(&again));

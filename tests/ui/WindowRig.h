@@ -1,14 +1,43 @@
 #pragma once
 
+#include "support/FakeComposer.h"
+#include "support/FakePasswordStore.h"
+#include "support/FakeProbe.h"
 #include "support/FakeShell.h"
 #include "support/ItalianTexts.h"
 #include "support/WorkspaceRig.h"
 #include "ui/frmMain.h"
 
 #include <QApplication>
+#include <QPointer>
 
 #include <memory>
 #include <optional>
+
+/// What a window needs beside the workspace: accounts, and a client and probes of their own for
+/// what is done outside runs.
+template <typename PromptsType>
+struct SideParts
+{
+    explicit SideParts(RigWith<PromptsType> &core)
+        : accounts(core.store, core.codePage),
+          trial({core.w.form, core.w.recipients, core.w.reader, core.w.filler, trialClient,
+                 composer}),
+          test(trial),
+          preflight(
+              {core.w.form, core.w.recipients, core.w.attachments, core.w.reader, trial, probe})
+    {}
+
+    Accounts accounts;
+    FakePasswordStore passwords;
+    FakeSmtp trialClient;
+    FakeComposer composer{trialClient};
+    FakeProbe probe; ///< of the preflight
+    TrialMessage trial;
+    TestMessage test;
+    Preflight preflight;
+    QList<QPointer<FakeProbe>> probes; ///< of the pages of accounts, in order
+};
 
 /// A main window in one of the languages, on a workspace whose client, clock, timers, desktop and
 /// prompts do what the test says. Widgets are found by their names.
@@ -21,18 +50,34 @@ public:
         if (language == Language::Italian)
             m_italian.emplace();
         core.emplace(language);
-        const WindowParts parts{core->w,
-                                core->prompts,
-                                shell,
-                                core->codePage,
-                                core->folder.path(),
-                                core->folder.path(),
-                                [this] { ++endings; },
-                                core->folder.filePath(QStringLiteral("window.ini"))};
+        side.emplace(*core);
         if (language == Language::Italian)
-            window = std::make_unique<frmMainIta>(parts);
+            window = std::make_unique<frmMainIta>(parts());
         else
-            window = std::make_unique<frmMain>(parts);
+            window = std::make_unique<frmMain>(parts());
+    }
+
+    /// What the window is made of.
+    [[nodiscard]] WindowParts parts()
+    {
+        return {core->w,
+                core->prompts,
+                shell,
+                core->codePage,
+                side->accounts,
+                side->passwords,
+                [this] {
+                    auto probe = std::make_unique<FakeProbe>();
+                    side->probes.append(probe.get());
+                    return probe;
+                },
+                core->folder.filePath(QStringLiteral("SMTP trace.txt")),
+                side->preflight,
+                side->test,
+                core->folder.path(),
+                core->folder.path(),
+                [this] { ++endings; },
+                core->folder.filePath(QStringLiteral("window.ini"))};
     }
 
     /// Loads the window and shows it on the (invisible) screen.
@@ -54,6 +99,7 @@ public:
 
     FakeShell shell;
     std::optional<RigWith<PromptsType>> core;
+    std::optional<SideParts<PromptsType>> side;
     std::unique_ptr<frmMain> window;
     int endings = 0; ///< how often the process would have ended
 

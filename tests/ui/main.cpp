@@ -1,12 +1,16 @@
+#include "TestAccountWindow.h"
 #include "TestBoxes.h"
+#include "TestCheckWindow.h"
 #include "TestControls.h"
 #include "TestDialogs.h"
 #include "TestDigitsEdit.h"
 #include "TestDrops.h"
 #include "TestHtmlView.h"
+#include "TestLoginBox.h"
 #include "TestMainWindow.h"
 #include "TestPreview.h"
 #include "TestRecipientList.h"
+#include "TestTestMessageBox.h"
 #include "TestWindowPrompts.h"
 #include "support/RunTests.h"
 
@@ -16,5 +20,6 @@ int main(int argc, char **argv)
 {
     return runTestsIn<QApplication, TestBoxes, TestControls, TestDigitsEdit, TestWindowPrompts,
                       TestRecipientList, TestMainWindow, TestDialogs, TestDrops, TestHtmlView,
-                      TestPreview>(argc, argv);
+                      TestPreview, TestLoginBox, TestAccountWindow, TestCheckWindow,
+                      TestTestMessageBox>(argc, argv);
 }

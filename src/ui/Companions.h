@@ -1,0 +1,50 @@
+#pragma once
+
+#include "preflight/TestToSender.h"
+#include "ui/WindowParts.h"
+
+#include <QObject>
+#include <QPointer>
+
+class frmCheck;
+class frmTest;
+
+/// The windows that stay beside the main window and block nothing of it: the pages of accounts, the
+/// check before sending, a test message on its way.
+class Companions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// They are shown over that window.
+    Companions(const WindowParts &parts, QWidget &window);
+
+    /// The page of the account of the form's server.
+    void cmdAccount_Click();
+    void mnuCheck_Click();
+    /// The message is that of the row at this position; 0: of no row.
+    void mnuTest_Click(int position) { m_test.mnuTest_Click(position); }
+
+Q_SIGNALS:
+    /// The user wants to go where this is put right.
+    void wanted(const Finding &finding);
+    /// Something was given up: a question that it asked may not count any more.
+    void gaveUp();
+
+private:
+    void closeCheck();
+    void showTest();
+
+    QWidget &m_window;
+    const Form &m_form;
+    Prompts &m_prompts;
+    Shell &m_shell;
+    Accounts &m_accounts;
+    PasswordStore &m_passwords;
+    std::function<std::unique_ptr<ServerProbe>()> m_newProbe;
+    QString m_traceFile;
+    Preflight &m_preflight;
+    TestToSender m_test;
+    QPointer<frmCheck> m_checkWindow;
+    QPointer<frmTest> m_testWindow;
+};
