@@ -13,6 +13,33 @@
     </message>
 </context>
 <context>
+    <name>AddressRules</name>
+    <message>
+        <source>it is empty</source>
+        <translation>è vuoto</translation>
+    </message>
+    <message>
+        <source>it holds control characters</source>
+        <translation>contiene caratteri di controllo</translation>
+    </message>
+    <message>
+        <source>it has no &quot;@&quot; between a name and a domain</source>
+        <translation>non ha una &quot;@&quot; fra un nome e un dominio</translation>
+    </message>
+    <message>
+        <source>it holds a blank</source>
+        <translation>contiene uno spazio</translation>
+    </message>
+    <message>
+        <source>it holds characters that no address may hold</source>
+        <translation>contiene caratteri che nessun indirizzo può contenere</translation>
+    </message>
+    <message>
+        <source>its domain is not complete</source>
+        <translation>il suo dominio non è completo</translation>
+    </message>
+</context>
+<context>
     <name>AttachmentView</name>
     <message>
         <source>File</source>
@@ -28,6 +55,72 @@
     <message>
         <source>All files (*.*)|*.*</source>
         <translation>Tutti i file (*.*)|*.*</translation>
+    </message>
+</context>
+<context>
+    <name>CertificateQuestion</name>
+    <message>
+        <source>Certificate</source>
+        <translation>Certificato</translation>
+    </message>
+    <message>
+        <source>The server %1 shows a certificate that cannot be verified: %2.
+
+Issued to: %3
+Issued by: %4
+Valid from %5 to %6
+SHA-256 fingerprint:
+%7
+
+Somebody may be pretending to be your server. Ask your provider to read the fingerprint of the certificate out to you, and compare it.
+
+Do you want to trust this certificate for this server from now on?</source>
+        <translation>Il server %1 presenta un certificato che non può essere verificato: %2.
+
+Rilasciato a: %3
+Rilasciato da: %4
+Valido dal %5 al %6
+Impronta SHA-256:
+%7
+
+Qualcuno potrebbe fingersi il server. Chiedere al fornitore di leggere l&apos;impronta del certificato e confrontarla.
+
+Considerare attendibile questo certificato per questo server d&apos;ora in poi?</translation>
+    </message>
+    <message>
+        <source>The certificate is trusted from now on. You can press Start again.</source>
+        <translation>D&apos;ora in poi questo certificato è considerato attendibile. È possibile premere di nuovo Avvia.</translation>
+    </message>
+    <message>
+        <source>The settings cannot be written; the certificate is not trusted.</source>
+        <translation>Le impostazioni non possono essere scritte; il certificato non è considerato attendibile.</translation>
+    </message>
+</context>
+<context>
+    <name>CommandOutput</name>
+    <message>
+        <source>the command &quot;%1&quot; cannot be started</source>
+        <translation>il comando &quot;%1&quot; non può essere avviato</translation>
+    </message>
+    <message>
+        <source>the command &quot;%1&quot; has not ended after %2 seconds</source>
+        <translation>il comando &quot;%1&quot; non è terminato dopo %2 secondi</translation>
+    </message>
+    <message>
+        <source>the command &quot;%1&quot; printed too much</source>
+        <translation>il comando &quot;%1&quot; ha scritto troppo</translation>
+    </message>
+    <message>
+        <source>the command &quot;%1&quot; was ended by force</source>
+        <translation>il comando &quot;%1&quot; è stato interrotto</translation>
+    </message>
+    <message>
+        <source>the command &quot;%1&quot; failed with exit status %2</source>
+        <translation>il comando &quot;%1&quot; è fallito con stato di uscita %2</translation>
+    </message>
+    <message>
+        <source>the command &quot;%1&quot; printed nothing</source>
+        <translation>il comando &quot;%1&quot; non ha scritto nulla</translation>
     </message>
 </context>
 <context>
@@ -102,10 +195,44 @@
     </message>
 </context>
 <context>
+    <name>Keyring</name>
+    <message>
+        <source>there is no keyring</source>
+        <translation>non c&apos;è un portachiavi</translation>
+    </message>
+</context>
+<context>
     <name>LineList</name>
     <message>
         <source>Copy</source>
         <translation>Copia</translation>
+    </message>
+</context>
+<context>
+    <name>LoginChain</name>
+    <message>
+        <source>the account has no user name; set it with: sorvanta-cli account %1 User NAME</source>
+        <translation>l&apos;account non ha un nome utente; si imposta con: sorvanta-cli account %1 User NOME</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Accesso</translation>
+    </message>
+    <message>
+        <source>no login is known; put one into the file .netrc of your home folder, or name a command that prints the password with --password-command</source>
+        <translation>non è nota alcuna credenziale; si può inserire nel file .netrc della cartella personale, oppure indicare con --password-command un comando che scrive la password</translation>
+    </message>
+    <message>
+        <source>the login was cancelled</source>
+        <translation>l&apos;accesso è stato annullato</translation>
+    </message>
+    <message>
+        <source>The password could not be remembered: %1</source>
+        <translation>Impossibile ricordare la password: %1</translation>
+    </message>
+    <message>
+        <source>the login is no longer wanted</source>
+        <translation>l&apos;accesso non è più richiesto</translation>
     </message>
 </context>
 <context>
@@ -163,6 +290,13 @@
     </message>
 </context>
 <context>
+    <name>Netrc</name>
+    <message>
+        <source>%1 can be read or changed by others; the passwords in it are not used. Let nobody but its owner have access to it.</source>
+        <translation>%1 può essere letto o modificato da altri; le password che contiene non vengono usate. Solo il proprietario deve potervi accedere.</translation>
+    </message>
+</context>
+<context>
     <name>Pacing</name>
     <message>
         <source>Not started</source>
@@ -199,6 +333,121 @@
     <message>
         <source> minutes...</source>
         <translation> minuti...</translation>
+    </message>
+    <message>
+        <source>Waiting for the login...</source>
+        <translation>In attesa dell&apos;accesso...</translation>
+    </message>
+</context>
+<context>
+    <name>Preflight</name>
+    <message>
+        <source>The server: %1</source>
+        <translation>Il server: %1</translation>
+    </message>
+    <message>
+        <source>No server takes the sender&apos;s address &quot;%1&quot;: %2.</source>
+        <translation>Nessun server accetta l&apos;indirizzo del mittente &quot;%1&quot;: %2.</translation>
+    </message>
+    <message>
+        <source>No server takes the control address &quot;%1&quot;: %2.</source>
+        <translation>Nessun server accetta l&apos;indirizzo di controllo &quot;%1&quot;: %2.</translation>
+    </message>
+    <message>
+        <source>The subject is in capital letters only; spam filters hold that against a message.</source>
+        <translation>L&apos;oggetto è tutto in maiuscole; i filtri antispam penalizzano un messaggio così.</translation>
+    </message>
+    <message>
+        <source>The sender&apos;s address is one of %1, and the server is not: many receivers refuse such a message or take it for spam.</source>
+        <translation>L&apos;indirizzo del mittente è di %1 e il server no: molti destinatari rifiutano un messaggio così o lo trattano come spam.</translation>
+    </message>
+    <message>
+        <source>The message file cannot be read: %1</source>
+        <translation>Impossibile leggere il file del messaggio: %1</translation>
+    </message>
+    <message>
+        <source>The message says &quot;%1&quot;, which stays as it is: the name is put in the place of &quot;*NOME*&quot; only.</source>
+        <translation>Il messaggio contiene &quot;%1&quot;, che resta così com&apos;è: il nome viene messo solo al posto di &quot;*NOME*&quot;.</translation>
+    </message>
+    <message>
+        <source>The HTML message is empty.</source>
+        <translation>Il messaggio HTML è vuoto.</translation>
+    </message>
+    <message>
+        <source>The HTML message has a picture and few words; spam filters hold that against it.</source>
+        <translation>Il messaggio HTML ha un&apos;immagine e poche parole; i filtri antispam lo penalizzano.</translation>
+    </message>
+    <message>
+        <source>The HTML message has no text message beside it: who sees no HTML gets nothing to read, and spam filters hold that against it.</source>
+        <translation>Il messaggio HTML non è accompagnato da un messaggio di testo: chi non vede l&apos;HTML non ha nulla da leggere, e i filtri antispam lo penalizzano.</translation>
+    </message>
+    <message>
+        <source>The text message is empty.</source>
+        <translation>Il messaggio di testo è vuoto.</translation>
+    </message>
+    <message>
+        <source>The attachment cannot be read: %1</source>
+        <translation>Impossibile leggere l&apos;allegato: %1</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; is not sent with the message: it is not in the folder of the HTML file.</source>
+        <translation>L&apos;immagine &quot;%1&quot; non viene inviata con il messaggio: non è nella cartella del file HTML.</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; is not sent with the message: it cannot be read, or it is in a subfolder.</source>
+        <translation>L&apos;immagine &quot;%1&quot; non viene inviata con il messaggio: non si può leggere, o è in una sottocartella.</translation>
+    </message>
+    <message>
+        <source>%1 more pictures are not sent with the message.</source>
+        <translation>Altre %1 immagini non vengono inviate con il messaggio.</translation>
+    </message>
+    <message>
+        <source>The message cannot be made: %1</source>
+        <translation>Impossibile comporre il messaggio: %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; would get the message twice: rows %2 and %3.</source>
+        <translation>&quot;%1&quot; riceverebbe il messaggio due volte: righe %2 e %3.</translation>
+    </message>
+    <message>
+        <source>Row %1: no server takes the address &quot;%2&quot;: %3.</source>
+        <translation>Riga %1: nessun server accetta l&apos;indirizzo &quot;%2&quot;: %3.</translation>
+    </message>
+    <message>
+        <source>Row %1 has no name, and the message has a place for it: &quot;%2&quot;.</source>
+        <translation>La riga %1 non ha un nome, e il messaggio lo prevede: &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>No recipient is checked: nobody gets the message.</source>
+        <translation>Nessun destinatario è selezionato: nessuno riceve il messaggio.</translation>
+    </message>
+    <message>
+        <source>%1 checked recipients have got the message, or may have: Start sends it to them again.</source>
+        <translation>%1 destinatari selezionati hanno ricevuto il messaggio, o forse l&apos;hanno ricevuto: Avvia lo invia loro di nuovo.</translation>
+    </message>
+    <message>
+        <source>%1 more rows hold an address for a second time.</source>
+        <translation>Altre %1 righe ripetono un indirizzo.</translation>
+    </message>
+    <message>
+        <source>The control address is in row %1 too, and would get the message twice.</source>
+        <translation>L&apos;indirizzo di controllo è anche nella riga %1 e riceverebbe il messaggio due volte.</translation>
+    </message>
+    <message>
+        <source>No server takes the addresses of %1 more rows.</source>
+        <translation>Nessun server accetta gli indirizzi di altre %1 righe.</translation>
+    </message>
+    <message>
+        <source>%1 more rows have no name.</source>
+        <translation>Altre %1 righe non hanno un nome.</translation>
+    </message>
+    <message>
+        <source>The message has %1 bytes, and the server takes no more than %2.</source>
+        <translation>Il messaggio ha %1 byte, e il server ne accetta al massimo %2.</translation>
+    </message>
+    <message>
+        <source>You log in as &quot;%1&quot; and send as &quot;%2&quot;; some servers refuse that.</source>
+        <translation>L&apos;accesso è come &quot;%1&quot; e l&apos;invio come &quot;%2&quot;; alcuni server lo rifiutano.</translation>
     </message>
 </context>
 <context>
@@ -356,6 +605,105 @@
     </message>
 </context>
 <context>
+    <name>ServerReport</name>
+    <message>
+        <source>You trust this certificate.</source>
+        <translation>Hai scelto di fidarti di questo certificato.</translation>
+    </message>
+    <message>
+        <source>Nothing secret is said on this line, so it is used all the same.</source>
+        <translation>Su questa linea non passa nulla di segreto, quindi viene usata lo stesso.</translation>
+    </message>
+    <message>
+        <source>Nothing is sent to this server.</source>
+        <translation>A questo server non viene inviato nulla.</translation>
+    </message>
+    <message>
+        <source>Certificate</source>
+        <translation>Certificato</translation>
+    </message>
+    <message>
+        <source>%1, issued by %2, valid until %3</source>
+        <translation>%1, emesso da %2, valido fino al %3</translation>
+    </message>
+    <message>
+        <source>Fingerprint</source>
+        <translation>Impronta</translation>
+    </message>
+    <message>
+        <source>It does not verify: %1. %2</source>
+        <translation>Non è verificabile: %1. %2</translation>
+    </message>
+    <message>
+        <source>Login</source>
+        <translation>Accesso</translation>
+    </message>
+    <message>
+        <source>accepted: %1 (%2)</source>
+        <translation>accettato: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>non riuscito</translation>
+    </message>
+    <message>
+        <source>the server offers none</source>
+        <translation>il server non ne offre</translation>
+    </message>
+    <message>
+        <source>offered, and not needed on this port</source>
+        <translation>offerto, e non necessario su questa porta</translation>
+    </message>
+    <message>
+        <source>%1 bytes (%2)</source>
+        <translation>%1 byte (%2)</translation>
+    </message>
+    <message>
+        <source>Server</source>
+        <translation>Server</translation>
+    </message>
+    <message>
+        <source>Connection</source>
+        <translation>Connessione</translation>
+    </message>
+    <message>
+        <source>%1, port %2</source>
+        <translation>%1, porta %2</translation>
+    </message>
+    <message>
+        <source>Greeting</source>
+        <translation>Saluto</translation>
+    </message>
+    <message>
+        <source>Encryption</source>
+        <translation>Cifratura</translation>
+    </message>
+    <message>
+        <source>none: others can read what is sent</source>
+        <translation>nessuna: altri possono leggere ciò che viene inviato</translation>
+    </message>
+    <message>
+        <source>Extensions</source>
+        <translation>Estensioni</translation>
+    </message>
+    <message>
+        <source>Largest message</source>
+        <translation>Messaggio più grande</translation>
+    </message>
+    <message>
+        <source>no limit is announced</source>
+        <translation>nessun limite dichiarato</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Risultato</translation>
+    </message>
+    <message>
+        <source>All is well. Nothing was sent.</source>
+        <translation>Tutto bene. Non è stato inviato nulla.</translation>
+    </message>
+</context>
+<context>
     <name>Start</name>
     <message>
         <source>Some image files linked to the HTML document aren&apos;t in the same folder of the document or they are linked with an absolute path. These images won&apos;t be sent correctly. Do you want to continue?</source>
@@ -401,6 +749,45 @@
         <source>Select at least on type of message (text or HTML) and specify the message file.</source>
         <translation>Specificare almeno un tipo di messaggio (testo o HTML) da inviare.</translation>
     </message>
+    <message>
+        <source>The server is missing.</source>
+        <translation>Manca il server.</translation>
+    </message>
+    <message>
+        <source>The sender&apos;s name is missing.</source>
+        <translation>Manca il nome del mittente.</translation>
+    </message>
+    <message>
+        <source>The sender&apos;s address is missing.</source>
+        <translation>Manca l&apos;indirizzo del mittente.</translation>
+    </message>
+    <message>
+        <source>The subject is missing.</source>
+        <translation>Manca l&apos;oggetto.</translation>
+    </message>
+</context>
+<context>
+    <name>TestMessage</name>
+    <message>
+        <source>The message was not sent: %1</source>
+        <translation>Il messaggio non è stato inviato: %1</translation>
+    </message>
+    <message>
+        <source>there is no address to send it to</source>
+        <translation>non c&apos;è un indirizzo a cui inviarlo</translation>
+    </message>
+    <message>
+        <source>The server accepted the message</source>
+        <translation>Il server ha accettato il messaggio</translation>
+    </message>
+    <message>
+        <source>The message was refused</source>
+        <translation>Il messaggio è stato rifiutato</translation>
+    </message>
+    <message>
+        <source>It is not known whether the server accepted the message: %1</source>
+        <translation>Non si sa se il server abbia accettato il messaggio: %1</translation>
+    </message>
 </context>
 <context>
     <name>TestToSender</name>
@@ -415,6 +802,32 @@
     <message>
         <source>Test message</source>
         <translation>Messaggio di prova</translation>
+    </message>
+</context>
+<context>
+    <name>TraceFile</name>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>non è un file normale</translation>
+    </message>
+    <message>
+        <source>Trace</source>
+        <translation>Traccia</translation>
+    </message>
+    <message>
+        <source>The dialogue with the server cannot be written to %1: %2.</source>
+        <translation>Il dialogo con il server non può essere scritto in %1: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>TrialMessage</name>
+    <message>
+        <source>&apos;%1&apos; is not a port number from 1 to 65535</source>
+        <translation>&apos;%1&apos; non è un numero di porta da 1 a 65535</translation>
+    </message>
+    <message>
+        <source>no server is named</source>
+        <translation>nessun server indicato</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 
 #include "base/modMain.h"
 #include "smtp/client/HostName.h"
+#include "smtp/client/SmtpProbe.h"
 
 #include <QDir>
 
@@ -14,10 +15,13 @@ Connections::Connections(const ConnectionParts &parts)
                                               parts.prompts, accounts)),
       m_surroundings{logins, accounts, trace, ownHostName()},
       SMTP(parts.clock, m_surroundings),
-      trialSMTP(parts.clock, m_surroundings),
-      probe(m_surroundings),
-      preflightProbe(m_surroundings)
+      trialSMTP(parts.clock, m_surroundings)
 {}
+
+std::unique_ptr<ServerProbe> Connections::newProbe() const
+{
+    return std::make_unique<SmtpProbe>(m_surroundings);
+}
 
 QString Connections::traceFileIn(const QString &programFolder)
 {

@@ -4,9 +4,10 @@
 #include "account/Keyring.h"
 #include "account/LoginChain.h"
 #include "account/TraceFile.h"
+#include "smtp/ServerProbe.h"
 #include "smtp/client/SmtpClient.h"
-#include "smtp/client/SmtpProbe.h"
 
+#include <memory>
 #include <optional>
 
 /// What the connections of a program are made with.
@@ -23,7 +24,7 @@ struct ConnectionParts
 };
 
 /// Everything that talks to servers, and what it goes by: the clients of the runs and of the
-/// trials, two probes, and where their logins come from.
+/// trials, probes, and where their logins come from.
 class Connections
 {
 public:
@@ -31,6 +32,9 @@ public:
 
     /// The trace of the servers whose account asks for one.
     [[nodiscard]] static QString traceFileIn(const QString &programFolder);
+    /// One for each of those who try servers out: its signals are for them alone. It must not
+    /// outlive the connections.
+    [[nodiscard]] std::unique_ptr<ServerProbe> newProbe() const;
 
     Accounts accounts;
     Keyring keyring;
@@ -43,6 +47,4 @@ private:
 public:
     SmtpClient SMTP;
     SmtpClient trialSMTP;
-    SmtpProbe probe;
-    SmtpProbe preflightProbe;
 };

@@ -3,21 +3,33 @@
 #include "base/HelpPages.h"
 #include "base/Host.h"
 #include "base/ProgramFolder.h"
-#include "smtp/client/HostName.h"
 
 #include <QCoreApplication>
 
 Program::Program(Language language, std::function<void()> endProcess)
     : folder(programFolder()),
       AppLog(folder, clock, formats, codePage),
-      SMTP(clock, {}, ownHostName()),
-      workspace({language, prompts, AppLog, settings, SMTP, clock, formats, codePage, Timer, Timer2,
-                 folder, computerName()})
+      connections({clock, settings, codePage, prompts, &prompts, folder}),
+      workspace({language, prompts, AppLog, settings, connections.SMTP, clock, formats, codePage,
+                 Timer, Timer2, folder, computerName()}),
+      trial({workspace.form, workspace.recipients, workspace.reader, workspace.filler,
+             connections.trialSMTP, connections.trialSMTP}),
+      testMessage(trial),
+      probe(connections.newProbe()),
+      preflight({workspace.form, workspace.recipients, workspace.attachments, workspace.reader,
+                 trial, *probe}),
+      certificateQuestion(connections.SMTP, connections.accounts, prompts, formats)
 {
     const WindowParts parts{workspace,
                             prompts,
                             shell,
                             codePage,
+                            connections.accounts,
+                            connections.keyring,
+                            [this] { return connections.newProbe(); },
+                            Connections::traceFileIn(folder),
+                            preflight,
+                            testMessage,
                             folder,
                             folderOfHelp(folder, QCoreApplication::applicationDirPath()),
                             std::move(endProcess),
@@ -27,6 +39,14 @@ Program::Program(Language language, std::function<void()> endProcess)
     else
         window = std::make_unique<frmMain>(parts);
     prompts.setWindow(window.get());
+    // Nobody is to be asked for the login of a run that is over.
+    QObject::connect(&workspace.form, &Form::runStateChanged, &connections.logins,
+                     [this](RunState state) {
+                         if (state == RunState::Idle)
+                             connections.logins.abandon();
+                     });
+    QObject::connect(window.get(), &frmMain::gaveUp, &prompts, &WindowPrompts::closeStale,
+                     Qt::QueuedConnection);
     // Questions about a project or a run that is gone close by themselves, once the procedure that
     // ended it is through.
     const auto closeStale = [this](auto signal) {

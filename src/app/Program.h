@@ -1,11 +1,15 @@
 #pragma once
 
+#include "account/CertificateQuestion.h"
+#include "app/Connections.h"
 #include "base/CodePage.h"
 #include "base/Language.h"
 #include "base/RegionalFormats.h"
+#include "preflight/Preflight.h"
+#include "preflight/TestMessage.h"
+#include "preflight/TrialMessage.h"
 #include "project/Workspace.h"
 #include "settings/RegFileStore.h"
-#include "smtp/client/SmtpClient.h"
 #include "ui/DesktopShell.h"
 #include "ui/WindowPrompts.h"
 #include "ui/frmMain.h"
@@ -26,11 +30,16 @@ public:
     QString folder;
     RegFileStore settings{RegFileStore::defaultFile()};
     CLog AppLog;
-    SmtpClient SMTP;
+    WindowPrompts prompts;
+    Connections connections;
     SystemSecondTimer Timer;
     SystemSecondTimer Timer2;
-    WindowPrompts prompts;
     DesktopShell shell;
     Workspace workspace;
+    TrialMessage trial;
+    TestMessage testMessage;
+    std::unique_ptr<ServerProbe> probe;
+    Preflight preflight;
+    CertificateQuestion certificateQuestion;
     std::unique_ptr<frmMain> window;
 };

@@ -105,13 +105,14 @@ int main(int argc, char **argv)
                              connection.passwordCommand.value_or(QString()), connection.traceFile});
     for (const Smtp *client : {&connections.SMTP, &connections.trialSMTP})
         adviseOnRefusedCertificates(*client, connections.accounts, output);
+    const auto probe = connections.newProbe();
     SystemSecondTimer Timer;
     SystemSecondTimer Timer2;
     const CliSurroundings from{settingsStore,
                                connections.SMTP,
                                connections.trialSMTP,
                                connections.trialSMTP,
-                               connections.probe,
+                               *probe,
                                connections.accounts,
                                clock,
                                formats,
