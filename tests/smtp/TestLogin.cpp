@@ -405,6 +405,17 @@ C: c2VjcmV0
                                           u"S: 235 welcome"_s};
 }
 
+void TestLogin::traceIsWholeToTheEnd()
+{
+    Dialogue dialogue;
+    QCOMPARE(dialogue.play(Greeted + u"S: 250 server.example\nE< ready\n"_s + Disconnected),
+             QString());
+    const QStringList &kept = dialogue.fakes.trace.lines;
+    QCOMPARE(kept.sliced(kept.size() - 4),
+             QStringList({u"S: 250 server.example"_s, u"C: QUIT"_s, u"S: 221 bye"_s,
+                          u"-- the session is over"_s}));
+}
+
 void TestLogin::traceHidesSecrets()
 {
     QFETCH(QString, script);

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void unverifiedCertificateGetsNoPassword();
     void resetDropsTheQuestion();
     void messageHeldForALoginIsNotTakenWhenNoneIsKnown();
+    void traceIsWholeToTheEnd();
     void traceHidesSecrets_data();
     void traceHidesSecrets();
     void errorHidesWhatTheServerRepeats();

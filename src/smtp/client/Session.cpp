@@ -244,11 +244,17 @@ void Session::quit()
     if (m_phase == Phase::Ready) {
         enter(Phase::Quit, u"the session is no longer wanted"_s);
         m_watchdog.start(m_from.limits.quit);
-        write("QUIT\r\n"_qba);
+        say("QUIT\r\n"_qba);
     } else {
         fail(SmtpErrorNumber::Closed, u"the session is no longer wanted"_s);
         deleteLater();
     }
+}
+
+void Session::say(const QByteArray &line)
+{
+    m_trace.commands(line);
+    write(line);
 }
 
 void Session::write(const QByteArray &bytes)

@@ -97,6 +97,8 @@ private:
         return m_phase != Phase::Off && m_phase != Phase::Tls && m_socket.isOpen();
     }
     void takeReply(const WireReply &reply);
+    /// Writes a command that is no secret.
+    void say(const QByteArray &line);
     void write(const QByteArray &bytes);
     [[nodiscard]] bool isAllWritten() const
     {

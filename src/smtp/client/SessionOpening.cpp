@@ -59,10 +59,8 @@ void Session::takeGreeting(const WireReply &reply)
 void Session::hello(Phase phase, const QString &reason)
 {
     enter(phase, reason);
-    const QByteArray line = (phase == Phase::Ehlo ? "EHLO " : "HELO ") +
-                            ehloName(m_from.hostName, m_socket.localAddress()) + "\r\n";
-    m_trace.commands(line);
-    write(line);
+    say((phase == Phase::Ehlo ? "EHLO " : "HELO ") +
+        ehloName(m_from.hostName, m_socket.localAddress()) + "\r\n");
 }
 
 void Session::takeHelloReply(const WireReply &reply)
@@ -83,8 +81,7 @@ void Session::afterHello()
     if (!m_socket.isEncrypted() && m_extensions.startTls) {
         m_from.accounts.rememberStartTls(m_server);
         enter(Phase::StartTls, u"the server offers encryption"_s);
-        m_trace.commands("STARTTLS\r\n"_qba);
-        write("STARTTLS\r\n"_qba);
+        say("STARTTLS\r\n"_qba);
         return;
     }
     if (!m_socket.isEncrypted() && m_account.startTlsPorts.contains(m_server.port)) {
