@@ -116,11 +116,11 @@ class Desktop:
         command = ["xdotool", "type", "--delay", KEYBOARD_PAUSE, "--", text]
         subprocess.run(command, env=self.environment, check=True)
 
-    def click(self, control):
+    def click(self, control, button=1):
         """Clicks on the middle of a control."""
         left, top, width, height = (number * self.scale for number in control.place)
         place = (str(round(left + width / 2)), str(round(top + height / 2)))
-        command = ["xdotool", "mousemove", *place, "click", "1"]
+        command = ["xdotool", "mousemove", *place, "click", str(button)]
         subprocess.run(command, env=self.environment, check=True)
 
     def resize(self, window, width, height):
