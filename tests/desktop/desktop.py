@@ -155,6 +155,11 @@ class Desktop:
 
         return until(f"the frame of {window}", framed)
 
+    def shown(self, process):
+        """The numbers of the windows of a process, its menus among them."""
+        command = ["xdotool", "search", "--onlyvisible", "--pid", str(process.pid)]
+        return self._output(*command).split()
+
     def picture(self, path, place):
         """Writes a picture of a part of the screen: left, top, width and height."""
         left, top, width, height = place
