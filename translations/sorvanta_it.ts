@@ -918,10 +918,6 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
         <translation>Utente:</translation>
     </message>
     <message>
-        <source>empty: asked for when the server wants a login</source>
-        <translation>vuoto: viene chiesto quando il server vuole un accesso</translation>
-    </message>
-    <message>
         <source>Password:</source>
         <translation>Password:</translation>
     </message>
@@ -936,10 +932,6 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <message>
         <source>Token command:</source>
         <translation>Comando per il token:</translation>
-    </message>
-    <message>
-        <source>empty: the password is used</source>
-        <translation>vuoto: si usa la password</translation>
     </message>
     <message>
         <source>Encryption</source>
@@ -1066,12 +1058,12 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
         <translation>Non è stato ancora scritto nulla.</translation>
     </message>
     <message>
-        <source>For servers that want an access token (XOAUTH2): a program that prints it.</source>
-        <translation>Per i server che vogliono un token di accesso (XOAUTH2): un programma che lo scrive.</translation>
-    </message>
-    <message>
         <source>Tries %1 out and sends nothing. Like OK, it keeps what is entered here.</source>
         <translation>Prova %1 senza inviare nulla. Come OK, conserva quanto è inserito qui.</translation>
+    </message>
+    <message>
+        <source>Normally empty. A program that prints an access token, for servers that want one (XOAUTH2).</source>
+        <translation>Di solito vuoto. Un programma che scrive un token di accesso, per i server che ne vogliono uno (XOAUTH2).</translation>
     </message>
 </context>
 <context>

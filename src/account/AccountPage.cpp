@@ -175,7 +175,7 @@ void AccountPage::keepPassword(const AccountEntries &entries, std::function<void
     if (m_forgetsPassword) {
         m_passwords.remove(
             host, m_accounts.account(host).user,
-            [page = QPointer(this), entries, then = std::move(then)](QString reason) {
+            [page = QPointer(this), entries, then = std::move(then)](const QString &reason) {
                 if (!page)
                     return;
                 page->m_forgetsPassword = !reason.isEmpty();

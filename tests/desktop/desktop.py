@@ -116,11 +116,11 @@ class Desktop:
         command = ["xdotool", "type", "--delay", KEYBOARD_PAUSE, "--", text]
         subprocess.run(command, env=self.environment, check=True)
 
-    def click(self, control):
+    def click(self, control, button=1):
         """Clicks on the middle of a control."""
         left, top, width, height = (number * self.scale for number in control.place)
         place = (str(round(left + width / 2)), str(round(top + height / 2)))
-        command = ["xdotool", "mousemove", *place, "click", "1"]
+        command = ["xdotool", "mousemove", *place, "click", str(button)]
         subprocess.run(command, env=self.environment, check=True)
 
     def resize(self, window, width, height):
@@ -154,6 +154,11 @@ class Desktop:
             return active, tuple(map(int, widths.split("=")[1].split(",")))
 
         return until(f"the frame of {window}", framed)
+
+    def shown(self, process):
+        """The numbers of the windows of a process, its menus among them."""
+        command = ["xdotool", "search", "--onlyvisible", "--pid", str(process.pid)]
+        return self._output(*command).split()
 
     def picture(self, path, place):
         """Writes a picture of a part of the screen: left, top, width and height."""

@@ -38,15 +38,4 @@ private Q_SLOTS:
     // The trace.
     void theTraceIsOpened();
     void aTraceThatIsNotThereIsSaid();
-
-    // The test of the connection.
-    void theTestShowsItsLinesAsTheyCome();
-    void goodAndBadAreToldApartWithoutColour();
-    void linesCanBeCopiedWhole();
-    void theTestCanBeStopped();
-    void theTestKeepsWhatWasEntered();
-    void aRefusedCertificateCanBeTrusted();
-    void closingGivesTheTestUp();
-    void twoServersAreTestedAtOnce();
-    void itsLoginBoxCanBeUsedAndClosesWithTheTest();
 };

@@ -1,3 +1,4 @@
+#include "TestAccountTrial.h"
 #include "TestAccountWindow.h"
 #include "TestBoxes.h"
 #include "TestCheckWindow.h"
@@ -20,6 +21,6 @@ int main(int argc, char **argv)
 {
     return runTestsIn<QApplication, TestBoxes, TestControls, TestDigitsEdit, TestWindowPrompts,
                       TestRecipientList, TestMainWindow, TestDialogs, TestDrops, TestHtmlView,
-                      TestPreview, TestLoginBox, TestAccountWindow, TestCheckWindow,
-                      TestTestMessageBox>(argc, argv);
+                      TestPreview, TestLoginBox, TestAccountWindow, TestAccountTrial,
+                      TestCheckWindow, TestTestMessageBox>(argc, argv);
 }
