@@ -23,6 +23,14 @@ bool answersCanCome()
     return loop != nullptr && loop->inherits("QEventDispatcherGlib");
 }
 
+// Empty when the job succeeded.
+QString failureOf(const Job *job)
+{
+    if (job == nullptr)
+        return Keyring::tr("there is no keyring");
+    return job->error() == QKeychain::NoError ? QString() : job->errorString();
+}
+
 } // namespace
 
 // Starts the job, which ends itself; `ended` gets it when it is through, or nullptr when there is
@@ -67,26 +75,20 @@ void Keyring::write(const QString &host, const QString &user, const QString &pas
 {
     auto *const job = new QKeychain::WritePasswordJob(Service);
     job->setTextData(password);
-    run(this, job, keyOf(host, user), [then = std::move(then)](const Job *ended) {
-        if (ended == nullptr)
-            then(tr("there is no keyring"));
-        else if (ended->error() == QKeychain::NoError)
-            then({});
-        else
-            then(ended->errorString());
+    run(this, job, keyOf(host, user), [this, host, then = std::move(then)](const Job *ended) {
+        if (ended != nullptr && ended->error() == QKeychain::NoError)
+            tellOfChange(host);
+        then(failureOf(ended));
     });
 }
 
 void Keyring::remove(const QString &host, const QString &user, std::function<void(QString)> then)
 {
     run(this, new QKeychain::DeletePasswordJob(Service), keyOf(host, user),
-        [then = std::move(then)](const Job *ended) {
-            if (ended == nullptr)
-                then(tr("there is no keyring"));
-            else if (ended->error() == QKeychain::NoError ||
-                     ended->error() == QKeychain::EntryNotFound)
-                then({});
-            else
-                then(ended->errorString());
+        [this, host, then = std::move(then)](const Job *ended) {
+            const bool wasThere = ended == nullptr || ended->error() != QKeychain::EntryNotFound;
+            if (ended != nullptr && ended->error() == QKeychain::NoError)
+                tellOfChange(host);
+            then(wasThere ? failureOf(ended) : QString());
         });
 }

@@ -17,9 +17,16 @@ struct LoginChain::Search
     [[nodiscard]] bool isWanted() const { return !request.stands || request.stands(); }
 };
 
-LoginChain::LoginChain(LoginParts parts) : m_parts(std::move(parts)) {}
+LoginChain::LoginChain(LoginParts parts) : m_parts(std::move(parts))
+{
+    // What the keyring has now is better than what was right before.
+    m_parts.keyring.onChange = [this](const QString &host) { m_accepted.remove(host.toLower()); };
+}
 
-LoginChain::~LoginChain() = default;
+LoginChain::~LoginChain()
+{
+    m_parts.keyring.onChange = nullptr;
+}
 
 // What comes back from outside finds a search that is over, or that nobody waits for: then it is
 // not gone on with.
@@ -46,7 +53,7 @@ void LoginChain::find(const LoginRequest &request, std::function<void(LoginAnswe
     const auto known = m_accepted.constFind(search->host);
     if (request.refusals > 0) {
         askPerson(search);
-    } else if (known != m_accepted.cend() &&
+    } else if (known != m_accepted.cend() && account.tokenCommand.isEmpty() &&
                (account.user.isEmpty() || account.user == known->user)) {
         answer(search, *known);
     } else if (!account.tokenCommand.isEmpty()) {

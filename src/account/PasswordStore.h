@@ -26,4 +26,14 @@ public:
     /// Removes it; one that is not there is no failure.
     virtual void remove(const QString &host, const QString &user,
                         std::function<void(QString)> then) = 0;
+
+    /// Called when a password of that host was kept or removed, before the answer.
+    std::function<void(const QString &host)> onChange;
+
+protected:
+    void tellOfChange(const QString &host) const
+    {
+        if (onChange)
+            onChange(host);
+    }
 };

@@ -100,6 +100,7 @@ public:
 private:
     void makeChain(LoginPrompt *whom)
     {
+        chain.reset(); // two at a time would listen to one keyring
         chain = std::make_unique<LoginChain>(LoginParts{accounts, keyring, prompts,
                                                         folder.filePath(QStringLiteral(".netrc")),
                                                         whom, m_passwordCommand});

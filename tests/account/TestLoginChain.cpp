@@ -142,6 +142,23 @@ void TestLoginChain::acceptedLoginOfAnotherUserIsNotUsed()
     QCOMPARE(rig.foundByAsking(LoginEntry{u"you"_s, u"typed"_s}), u"password you typed"_s);
 }
 
+void TestLoginChain::passwordKeptInTheKeyringReplacesTheAcceptedOne()
+{
+    ChainRig rig;
+    rig.setAccount(u"me"_s);
+    rig.accept(u"me"_s, u"old"_s);
+    rig.keyring.write(rig.server.host.toLower(), u"me"_s, u"new"_s, [](const QString &) {});
+    QCOMPARE(rig.found(), u"password me new"_s);
+}
+
+void TestLoginChain::acceptedPasswordIsNotUsedInPlaceOfAToken()
+{
+    ChainRig rig;
+    rig.accept(u"me"_s, u"old"_s);
+    rig.setAccount(u"me"_s, u"echo token"_s);
+    QCOMPARE(rig.found(), u"token me token"_s);
+}
+
 void TestLoginChain::tokenIsAskedForAnewEachTime()
 {
     ChainRig rig;

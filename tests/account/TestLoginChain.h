@@ -23,6 +23,8 @@ private Q_SLOTS:
 
     void acceptedLoginIsUsedAgainOnEveryPortOfTheHost();
     void acceptedLoginOfAnotherUserIsNotUsed();
+    void passwordKeptInTheKeyringReplacesTheAcceptedOne();
+    void acceptedPasswordIsNotUsedInPlaceOfAToken();
     void tokenIsAskedForAnewEachTime();
     void refusedLoginIsForgotten();
     void refusalOfAnotherLoginForgetsNothing();

@@ -21,5 +21,6 @@ private Q_SLOTS:
     void traceHidesSecrets();
     void errorHidesWhatTheServerRepeats();
     void secretsInEveryForm();
+    void plainWordsAreNoServersWords();
     void traceIsOffUnlessWanted();
 };

@@ -27,19 +27,22 @@ public:
     void write(const QString &host, const QString &user, const QString &password,
                std::function<void(QString)> then) override
     {
-        if (failure.isEmpty())
+        if (failure.isEmpty()) {
             passwords.insert(user + u'@' + host, password);
+            tellOfChange(host);
+        }
         post([this, then = std::move(then)] { then(failure); });
     }
     void remove(const QString &host, const QString &user,
                 std::function<void(QString)> then) override
     {
-        passwords.remove(user + u'@' + host);
-        post([then = std::move(then)] { then({}); });
+        if (failure.isEmpty() && passwords.remove(user + u'@' + host) > 0)
+            tellOfChange(host);
+        post([this, then = std::move(then)] { then(failure); });
     }
 
     bool available = true;
-    QString failure;                  ///< of every write; empty: it succeeds
+    QString failure;                  ///< of every change; empty: it succeeds
     QMap<QString, QString> passwords; ///< by "user@host"
     QStringList reads;                ///< what was asked for
 

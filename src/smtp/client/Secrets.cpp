@@ -2,7 +2,8 @@
 
 #include "smtp/client/AuthExchange.h"
 
-using namespace Qt::StringLiterals;
+#include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -15,18 +16,17 @@ void Secrets::learn(const Login &login)
 {
     const QByteArray secret = login.secret.toUtf8();
     if (secret.size() >= ShortestHidden)
-        m_forms += login.secret;
+        m_forms += secret;
     for (const QByteArray &bytes : {secret, plainResponse(login), tokenResponse(login)})
-        m_forms += QString::fromLatin1(bytes.toBase64(QByteArray::OmitTrailingEquals));
-    m_forms.removeDuplicates();
-    m_forms.removeAll(QString());
+        m_forms += bytes.toBase64(QByteArray::OmitTrailingEquals);
+    m_forms.removeAll(QByteArray());
     // A form that holds another one goes first.
-    std::ranges::sort(m_forms, std::ranges::greater(), &QString::size);
+    std::ranges::sort(m_forms, std::ranges::greater(), &QByteArray::size);
 }
 
-QString Secrets::hide(QString text) const
+QByteArray Secrets::hide(QByteArray bytes) const
 {
-    for (const QString &form : m_forms)
-        text.replace(form, "***"_L1);
-    return text;
+    for (const QByteArray &form : m_forms)
+        bytes.replace(form, "***");
+    return bytes;
 }

@@ -2,17 +2,18 @@
 
 #include "smtp/LoginSource.h"
 
-#include <QStringList>
+#include <QByteArray>
+#include <QList>
 
-/// Knows the forms in which a login's secret can stand in a line, and takes them out: a server may
-/// repeat in its reply what it was told.
+/// Knows the forms in which a login's secret can stand in a server's reply, and takes them out: it
+/// may repeat what it was told.
 class Secrets
 {
 public:
     void learn(const Login &login);
-    /// The text with every form of every secret replaced by "***".
-    [[nodiscard]] QString hide(QString text) const;
+    /// The bytes with every form of every secret replaced by "***".
+    [[nodiscard]] QByteArray hide(QByteArray bytes) const;
 
 private:
-    QStringList m_forms;
+    QList<QByteArray> m_forms;
 };

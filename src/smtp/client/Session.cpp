@@ -34,7 +34,7 @@ Session::Session(const ClientSurroundings &from, QObject *parent)
 void Session::enter(Phase phase, const QString &reason)
 {
     qCDebug(sessionTrace).noquote()
-        << m_server.toText() << m_phase << "->" << phase << ':' << m_trace.secrets.hide(reason);
+        << m_server.toText() << m_phase << "->" << phase << ':' << reason;
     m_phase = phase;
 }
 
@@ -82,15 +82,17 @@ void Session::readReplies()
             if (!reply)
                 fail(SmtpErrorNumber::Unreadable, reply.error());
             else if (*reply)
-                takeReply(**reply);
+                takeReply(*std::move(*reply));
             else
                 break;
         }
     }
 }
 
-void Session::takeReply(const WireReply &reply)
+void Session::takeReply(WireReply reply)
 {
+    // Beyond this point nothing that the server says can hold a secret.
+    reply.lines = m_secrets.hide(reply.lines);
     m_trace.reply(reply);
     switch (m_phase) {
     case Phase::Greeting:
@@ -210,7 +212,7 @@ void Session::fail(SmtpErrorNumber number, const QString &reason)
 {
     if (m_phase == Phase::Off)
         return;
-    m_fault = {number, m_trace.secrets.hide(reason)};
+    m_fault = {number, reason};
     if (m_transaction) {
         const QString farewell = m_transaction->reasonToEnd();
         if (!farewell.isEmpty())

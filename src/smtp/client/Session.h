@@ -3,6 +3,7 @@
 #include "smtp/ServerReport.h"
 #include "smtp/client/AuthExchange.h"
 #include "smtp/client/ClientSurroundings.h"
+#include "smtp/client/Secrets.h"
 #include "smtp/client/SessionFault.h"
 #include "smtp/client/SessionTrace.h"
 #include "smtp/client/Transaction.h"
@@ -96,7 +97,7 @@ private:
     {
         return m_phase != Phase::Off && m_phase != Phase::Tls && m_socket.isOpen();
     }
-    void takeReply(const WireReply &reply);
+    void takeReply(WireReply reply);
     /// Writes a command that is no secret.
     void say(const QByteArray &line);
     void write(const QByteArray &bytes);
@@ -143,6 +144,7 @@ private:
     Watchdog m_watchdog;
     ReplyReader m_reader;
     SessionTrace m_trace;
+    Secrets m_secrets;
     Phase m_phase = Phase::Off;
     SessionFault m_fault;
     ServerReport m_report;

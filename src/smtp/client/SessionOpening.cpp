@@ -222,7 +222,7 @@ void Session::takeLogin(const LoginAnswer &answer)
         return;
     }
     m_login = *answer;
-    m_trace.secrets.learn(*answer);
+    m_secrets.learn(*answer);
     if (m_socket.state() == QAbstractSocket::ConnectedState)
         authenticate();
     else
@@ -275,7 +275,7 @@ void Session::loginRefused(const ServerReply &reply)
     if (refusal.isFinal || m_loginRefusals >= MostLoginRefusals)
         fail(SmtpErrorNumber::LoginFailed, refusal.text);
     else
-        lookForLogin(m_trace.secrets.hide(refusal.text));
+        lookForLogin(refusal.text);
 }
 
 void Session::becomeReady(const QString &reason)

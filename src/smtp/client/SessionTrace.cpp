@@ -1,5 +1,7 @@
 #include "smtp/client/SessionTrace.h"
 
+#include <QList>
+
 void SessionTrace::begin(const ServerAddress &server)
 {
     m_server = server;
@@ -30,5 +32,5 @@ void SessionTrace::reply(const WireReply &reply)
 void SessionTrace::write(Speaker speaker, const QString &text)
 {
     if (m_isWanted)
-        m_trace.line(m_server, speaker, secrets.hide(text));
+        m_trace.line(m_server, speaker, text);
 }

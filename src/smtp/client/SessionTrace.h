@@ -2,10 +2,9 @@
 
 #include "smtp/ProtocolTrace.h"
 #include "smtp/client/ReplyReader.h"
-#include "smtp/client/Secrets.h"
 
-/// The dialogue of one session on its way into the trace, when that is wanted. No secret gets past
-/// it.
+/// The dialogue of one session on its way into the trace, when that is wanted. What comes here
+/// holds no secret any more.
 class SessionTrace
 {
 public:
@@ -19,8 +18,6 @@ public:
     void client(const QString &line) { write(Speaker::Client, line); }
     void note(const QString &text) { write(Speaker::Note, text); }
     void reply(const WireReply &reply);
-
-    Secrets secrets;
 
 private:
     void write(Speaker speaker, const QString &text);
