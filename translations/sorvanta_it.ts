@@ -230,10 +230,6 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
         <source>The password could not be remembered: %1</source>
         <translation>Impossibile ricordare la password: %1</translation>
     </message>
-    <message>
-        <source>the login is no longer wanted</source>
-        <translation>l&apos;accesso non è più richiesto</translation>
-    </message>
 </context>
 <context>
     <name>Message</name>
@@ -787,6 +783,10 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <message>
         <source>It is not known whether the server accepted the message: %1</source>
         <translation>Non si sa se il server abbia accettato il messaggio: %1</translation>
+    </message>
+    <message>
+        <source>another project was opened meanwhile</source>
+        <translation>nel frattempo è stato aperto un altro progetto</translation>
     </message>
 </context>
 <context>

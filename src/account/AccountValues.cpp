@@ -54,15 +54,15 @@ QString certificatesOf(const ServerAccount &account)
 bool setCertificatesOf(ServerAccount &account, const QString &text)
 {
     QList<QByteArray> all;
+    bool makesSense = true;
     for (const QString &word : words(text)) {
         const QByteArray fingerprint = fingerprintOf(word);
-        if (fingerprint.isEmpty())
-            return false;
-        if (!all.contains(fingerprint))
+        makesSense = makesSense && !fingerprint.isEmpty();
+        if (!fingerprint.isEmpty() && !all.contains(fingerprint))
             all.append(fingerprint);
     }
     account.trustedCertificates = all;
-    return true;
+    return makesSense;
 }
 
 QString portsOf(const ServerAccount &account)
@@ -76,15 +76,15 @@ QString portsOf(const ServerAccount &account)
 bool setPortsOf(ServerAccount &account, const QString &text)
 {
     QList<quint16> all;
+    bool makesSense = true;
     for (const QString &word : words(text)) {
         const quint16 port = toNumber<quint16>(word).value_or(0);
-        if (port == 0)
-            return false;
-        if (!all.contains(port))
+        makesSense = makesSense && port != 0;
+        if (port != 0 && !all.contains(port))
             all.append(port);
     }
     account.startTlsPorts = all;
-    return true;
+    return makesSense;
 }
 
 template <QString ServerAccount::*Member>
@@ -135,5 +135,9 @@ std::optional<QString> accountValue(const ServerAccount &account, QStringView na
 bool setAccountValue(ServerAccount &account, QStringView name, const QString &text)
 {
     const AccountValue *const value = find(name);
-    return value != nullptr && value->setText(account, text);
+    ServerAccount changed = account;
+    if (value == nullptr || !value->setText(changed, text))
+        return false;
+    account = changed;
+    return true;
 }

@@ -15,7 +15,7 @@ struct AccountValue
     /// A text may be empty; an integer is 0 or 1.
     ValueKind kind = ValueKind::Text;
     QString (*text)(const ServerAccount &account) = nullptr;
-    /// False, and nothing is changed, when the text makes no sense.
+    /// False when the text makes no sense; what does in a list is taken all the same.
     bool (*setText)(ServerAccount &account, const QString &text) = nullptr;
 };
 

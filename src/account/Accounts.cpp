@@ -39,9 +39,11 @@ ServerAccount Accounts::account(const QString &host) const
             reg.ReadStr(value.name, bytes);
             text = m_codePage.decode(bytes);
         }
-        // The file may be edited by hand: what makes no sense counts as absent.
+        // The file may be edited by hand: what makes no sense in it counts as absent, the rest does
+        // not.
         value.setText(account, text);
     }
+    account.startTlsPorts += m_unwritten.value(host.toLower());
     return account;
 }
 
@@ -71,7 +73,9 @@ void Accounts::rememberStartTls(const ServerAddress &server)
     if (known.startTlsPorts.contains(server.port))
         return;
     known.startTlsPorts.append(server.port);
-    setAccount(server.host, known);
+    // What cannot be kept is remembered for as long as the program runs.
+    if (!setAccount(server.host, known))
+        m_unwritten[server.host.toLower()].append(server.port);
 }
 
 bool Accounts::trust(const QString &host, const QByteArray &fingerprint)

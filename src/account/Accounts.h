@@ -4,6 +4,8 @@
 #include "settings/SettingsStore.h"
 #include "smtp/ServerAccounts.h"
 
+#include <QHash>
+
 /// The user's accounts, kept in the settings store: a key for each host, below that of the
 /// program's settings. Passwords are never among them.
 class Accounts final : public ServerAccounts
@@ -24,4 +26,6 @@ public:
 private:
     SettingsStore &m_store;
     const CodePage &m_codePage;
+    /// Ports with STARTTLS, by host, that could not be written.
+    QHash<QString, QList<quint16>> m_unwritten;
 };

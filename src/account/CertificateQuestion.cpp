@@ -32,7 +32,7 @@ CertificateQuestion::CertificateQuestion(const Smtp &smtp, Accounts &accounts, P
     connect(&smtp, &Smtp::SmtpError, this, [this] {
         const auto certificate = m_smtp.refusedCertificate();
         if (certificate && !certificate->fingerprint.isEmpty())
-            askAbout(m_smtp.Server, *certificate);
+            askAbout(certificate->host, *certificate);
     });
 }
 

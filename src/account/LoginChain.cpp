@@ -205,8 +205,11 @@ void LoginChain::refused(const ServerAddress &server, const Login &login)
         m_accepted.erase(known);
 }
 
-void LoginChain::abandon()
+void LoginChain::dropStale()
 {
-    for (const SearchPtr &search : std::vector(m_searches))
-        answer(search, tl::unexpected(tr("the login is no longer wanted")));
+    std::erase_if(m_searches, [](const SearchPtr &search) { return !search->isWanted(); });
+    // From the event loop: the box may be what is being answered.
+    if (m_parts.prompt != nullptr)
+        QMetaObject::invokeMethod(
+            this, [prompt = m_parts.prompt] { prompt->closeStale(); }, Qt::QueuedConnection);
 }

@@ -25,8 +25,8 @@ struct LoginParts
 };
 
 /// Looks for a login where it costs a person the least: one that was accepted before, the account's
-/// command for tokens, the command for passwords, the keyring, the netrc file, the person. None of
-/// these but the person is asked again after a refusal.
+/// command for tokens, the command for passwords, the keyring, the netrc file, the person. After a
+/// refusal only the person is asked again, as long as the session lasts.
 class LoginChain final : public QObject, public LoginSource
 {
     Q_OBJECT
@@ -36,12 +36,9 @@ public:
     ~LoginChain() override;
 
     void find(const LoginRequest &request, std::function<void(LoginAnswer)> then) override;
+    void dropStale() override;
     void accepted(const ServerAddress &server, const Login &login) override;
     void refused(const ServerAddress &server, const Login &login) override;
-
-    /// Nobody wants a login any more, as at the end of a run: what is being looked for is answered
-    /// with a reason, and boxes that ask for it need not stay open.
-    void abandon();
 
 private:
     struct Search;

@@ -39,18 +39,6 @@ Program::Program(Language language, std::function<void()> endProcess)
     else
         window = std::make_unique<frmMain>(parts);
     prompts.setWindow(window.get());
-    // Nobody is to be asked for the login of a run that is over.
-    QObject::connect(&workspace.form, &Form::runStateChanged, &connections.logins,
-                     [this](RunState state) {
-                         if (state == RunState::Idle)
-                             connections.logins.abandon();
-                     });
-    // Questions about a page, a check or a session that was given up close by themselves.
-    QObject::connect(window.get(), &frmMain::gaveUp, &prompts, &WindowPrompts::closeStale,
-                     Qt::QueuedConnection);
-    for (const Smtp *client : {&connections.SMTP, &connections.trialSMTP})
-        QObject::connect(client, &Smtp::LoginAwaited, &prompts, &WindowPrompts::closeStale,
-                         Qt::QueuedConnection);
     // Questions about a project or a run that is gone close by themselves, once the procedure that
     // ended it is through.
     const auto closeStale = [this](auto signal) {

@@ -27,8 +27,7 @@ QString day(const QDateTime &moment)
 
 } // namespace
 
-QString adviceOnCertificate(const QString &host, const ServerCertificate &certificate,
-                            QList<QByteArray> trusted)
+QString adviceOnCertificate(const ServerCertificate &certificate, QList<QByteArray> trusted)
 {
     // The command sets the whole list.
     if (!trusted.contains(certificate.fingerprint))
@@ -43,16 +42,16 @@ QString adviceOnCertificate(const QString &host, const ServerCertificate &certif
                           "sorvanta-cli account %6 TrustedCertificates %7")
         .arg(withVisibleControls(certificate.owner), withVisibleControls(certificate.issuer),
              day(certificate.validFrom), day(certificate.validUntil),
-             fingerprintText(certificate.fingerprint), shellWord(host), shellWord(list));
+             fingerprintText(certificate.fingerprint), shellWord(certificate.host),
+             shellWord(list));
 }
 
 void adviseOnRefusedCertificates(const Smtp &smtp, const ServerAccounts &accounts, Output &output)
 {
     QObject::connect(&smtp, &Smtp::SmtpError, &smtp, [&smtp, &accounts, &output] {
         if (const auto certificate = smtp.refusedCertificate()) {
-            const QString &host = smtp.Server;
-            output.message(adviceOnCertificate(host, *certificate,
-                                               accounts.account(host).trustedCertificates));
+            output.message(adviceOnCertificate(
+                *certificate, accounts.account(certificate->host).trustedCertificates));
         }
     });
 }

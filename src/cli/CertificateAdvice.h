@@ -6,7 +6,7 @@
 
 /// How a certificate that was refused can be checked, and trusted besides those that already are:
 /// lines for people, the last of them the command to type.
-[[nodiscard]] QString adviceOnCertificate(const QString &host, const ServerCertificate &certificate,
+[[nodiscard]] QString adviceOnCertificate(const ServerCertificate &certificate,
                                           QList<QByteArray> trusted);
 
 /// Says so whenever a session of this client ends for such a certificate, as long as all three

@@ -23,8 +23,7 @@ public:
 
     void askLogin(const LoginBox &box, Stands stands,
                   std::function<void(std::optional<LoginEntry>)> then) override;
-    /// Withdraws the questions whose answers nobody waits for any more.
-    void closeStale();
+    void closeStale() override;
 
 private:
     struct Asked

@@ -43,6 +43,7 @@ void TestMessage::send(int position, const QString &address)
     }
     m_position = position;
     m_address = address;
+    m_project = m_trial.project();
     m_phase = Phase::Connecting;
     m_SMTP.Reset();
     m_SMTP.Server = server->host;
@@ -64,6 +65,10 @@ void TestMessage::onStatusChanged(qint32 code)
 {
     if (code != Smtp::Ready || m_phase != Phase::Connecting)
         return;
+    if (m_trial.project() != m_project) {
+        finish(Outcome::NotBegun, notSent(tr("another project was opened meanwhile")));
+        return;
+    }
     // Anew, since others may have filled the client meanwhile.
     if (const auto filled = m_trial.fill(m_position, m_address); !filled) {
         finish(Outcome::NotBegun, notSent(filled.error()));

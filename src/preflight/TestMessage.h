@@ -48,6 +48,7 @@ private:
     Phase m_phase = Phase::Idle;
     bool m_abandonedInFlight = false; ///< a message that was given up is not settled yet
     quint32 m_turn = 0;               ///< changes with every send and giveUp
+    quint32 m_project = 0;            ///< whose message it is
     int m_position = 0;
     QString m_address;
     Outcome m_outcome = Outcome::NotBegun;

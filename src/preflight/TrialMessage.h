@@ -39,6 +39,8 @@ public:
     /// The server that the form names, or why it names none.
     [[nodiscard]] tl::expected<ServerAddress, QString> server() const;
 
+    /// The number of the project that is open.
+    [[nodiscard]] quint32 project() const { return m_form.situation().project; }
     [[nodiscard]] Smtp &client() { return m_SMTP; }
 
 private:

@@ -35,4 +35,6 @@ public:
     /// holds.
     virtual void askLogin(const LoginBox &box, Stands stands,
                           std::function<void(std::optional<LoginEntry>)> then) = 0;
+    /// Withdraws the boxes whose condition no longer holds.
+    virtual void closeStale() = 0;
 };

@@ -118,6 +118,9 @@ void SendingEngine::cmdStop_Click()
                     return;
                 m_AppLog.WriteMessage(QStringLiteral("User has pressed the stop command"));
                 StopSending();
+                // A message in flight finishes; a session that has none must not ask for a login
+                // any more.
+                m_SMTP.Disconnect();
                 m_form.setProjectModified(true);
             });
     });
@@ -126,6 +129,7 @@ void SendingEngine::cmdStop_Click()
 void SendingEngine::EnterPausedState()
 {
     startNewRun();
+    m_SMTP.Disconnect(); // the session of the project before may be waiting for a login
     setRunState(RunState::Paused, "a project saved in a pause was opened");
     m_form.setText(Control::lblTimer, Texts::tr("Pause..."));
     m_session.secondsToNextPacket = 1;

@@ -42,8 +42,11 @@ public:
     /// the request does not stand any more. After a refusal another login is looked for, not the
     /// same again.
     virtual void find(const LoginRequest &request, std::function<void(LoginAnswer)> then) = 0;
+    /// A request that was made does not stand any more: what was begun for it, such as a box, can
+    /// be given up.
+    virtual void dropStale() = 0;
     /// The server accepted the login that was found last: it can be kept.
     virtual void accepted(const ServerAddress &server, const Login &login) = 0;
-    /// The server refused it for good: it is not to be found again.
+    /// The server refused it for good: it is not to be kept.
     virtual void refused(const ServerAddress &server, const Login &login) = 0;
 };

@@ -21,6 +21,7 @@ struct ServerCertificate
     };
 
     Standing standing = Standing::Verified;
+    QString host;           ///< the server that showed it
     QString owner;          ///< the name it was issued to
     QStringList names;      ///< the host names it is for
     QString issuer;         ///< who issued it
@@ -62,7 +63,7 @@ struct ServerReport
     QString greeting;
     QString encryption; ///< "TLSv1.3, TLS_AES_256_GCM_SHA384"; empty: none
     std::optional<ServerCertificate> certificate;
-    QStringList extensions; ///< as the server announced them last, one a line
+    QStringList extensions; ///< as the server announced them before the login, one a line
     LoginState login = LoginState::NotOffered;
     QString loginMechanism; ///< "PLAIN"; of an accepted or refused login
     QString loginUser;

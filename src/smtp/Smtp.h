@@ -33,6 +33,7 @@ struct OutgoingMessage
 /// - Reset and Disconnect let it finish: its MessageDone comes, then the session is closed. A
 ///   Connect called meanwhile waits behind it. Apart from that result, no event of a session comes
 ///   after its Reset or Disconnect.
+/// - A message that waits for a login is given up by Disconnect: an SmtpError settles it.
 /// - An SmtpError that settles the message leaves a waiting Connect in place; Disconnect drops it.
 /// - A session that ends with no message in flight is no error: the ready event is raised, and the
 ///   next Send connects again.

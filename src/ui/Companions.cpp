@@ -59,7 +59,6 @@ void Companions::cmdAccount_Click()
     auto *const page = new frmAccount(
         *server, {m_accounts, m_passwords, m_newProbe(), m_prompts, m_shell, m_traceFile},
         &m_window);
-    connect(page, &frmAccount::gaveUp, this, &Companions::gaveUp);
     bringForward(*page);
 }
 
@@ -68,7 +67,6 @@ void Companions::mnuCheck_Click()
     if (!isOpen(m_checkWindow)) {
         m_checkWindow = new frmCheck(m_preflight, &m_window);
         connect(m_checkWindow, &frmCheck::wanted, this, &Companions::wanted);
-        connect(m_checkWindow, &frmCheck::gaveUp, this, &Companions::gaveUp);
     }
     m_checkWindow->checkAgain();
     bringForward(*m_checkWindow);
@@ -83,9 +81,7 @@ void Companions::closeCheck()
 
 void Companions::showTest()
 {
-    if (m_test.address().isEmpty()) {
-        Q_EMIT gaveUp();
-    } else if (!isOpen(m_testWindow)) {
+    if (!m_test.address().isEmpty() && !isOpen(m_testWindow)) {
         m_testWindow = new frmTest(m_test, &m_window);
         bringForward(*m_testWindow);
     }

@@ -28,8 +28,6 @@ public:
 Q_SIGNALS:
     /// The user wants to go where this is put right.
     void wanted(const Finding &finding);
-    /// Something was given up: a question that it asked may not count any more.
-    void gaveUp();
 
 private:
     void closeCheck();

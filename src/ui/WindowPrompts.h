@@ -38,7 +38,7 @@ public:
 public Q_SLOTS:
     /// Closes the boxes whose answer does not count any more. To be called through a queued
     /// connection, whenever something that conditions look at has changed.
-    void closeStale();
+    void closeStale() override;
 
 private:
     enum class Kind { Notice, Asking, AskingBeside };

@@ -52,10 +52,7 @@ frmAccount::frmAccount(const ServerAddress &server, AccountWindowParts parts, QW
     connect(m_ui->cmdOpenTrace, &QPushButton::clicked, this, &frmAccount::openTrace);
     connect(m_ui->cmdTest, &QPushButton::clicked, this, [this] { m_page.test(entered()); });
     connect(m_ui->cmdTrust, &QPushButton::clicked, this, [this] { m_page.trust(entered()); });
-    connect(m_ui->cmdStopTest, &QPushButton::clicked, this, [this] {
-        m_page.stopTest();
-        Q_EMIT gaveUp();
-    });
+    connect(m_ui->cmdStopTest, &QPushButton::clicked, this, [this] { m_page.stopTest(); });
     connect(m_ui->cmdOK, &QPushButton::clicked, this, [this] {
         m_page.stopTest();
         m_page.keep(entered());
@@ -72,7 +69,6 @@ frmAccount::frmAccount(const ServerAddress &server, AccountWindowParts parts, QW
     connect(this, &QDialog::finished, this, [this] {
         m_page.stopTest();
         m_ui->txtPassword->clear();
-        Q_EMIT gaveUp();
     });
     showState();
 }
@@ -110,9 +106,10 @@ void frmAccount::showState()
         m_ui->lblKeyring->setText(tr("OK takes the password out of the keyring."));
     else
         m_ui->lblKeyring->setText(tr("It is kept in the keyring. Left empty, it stays as it is."));
-    // A test has put it into the keyring.
-    if (m_page.isTesting())
+    // A test that begins has put it into the keyring.
+    if (m_page.isTesting() && !m_showsTest)
         m_ui->txtPassword->clear();
+    m_showsTest = m_page.isTesting();
 
     showRemembered();
     m_ui->cmdTest->setEnabled(!m_page.isBusy());

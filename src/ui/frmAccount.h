@@ -34,10 +34,6 @@ public:
 
     [[nodiscard]] const ServerAddress &server() const { return m_page.server(); }
 
-Q_SIGNALS:
-    /// The server is not asked any more, so that no question of its counts.
-    void gaveUp();
-
 private:
     void showEntries();
     void showState();
@@ -53,4 +49,5 @@ private:
     Shell &m_shell;
     QString m_traceFile;
     AccountPage m_page;
+    bool m_showsTest = false;
 };

@@ -16,10 +16,7 @@ frmCheck::frmCheck(Preflight &preflight, QWidget *parent)
     connect(m_ui->lstFindings, &LineList::activated, this, chooseAt);
     connect(m_ui->cmdAgain, &QPushButton::clicked, this, &frmCheck::checkAgain);
     connect(m_ui->cmdClose, &QPushButton::clicked, this, &QDialog::reject);
-    connect(this, &QDialog::finished, this, [this] {
-        m_preflight.giveUp();
-        Q_EMIT gaveUp();
-    });
+    connect(this, &QDialog::finished, this, [this] { m_preflight.giveUp(); });
 }
 
 frmCheck::~frmCheck() = default;

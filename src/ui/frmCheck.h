@@ -25,8 +25,6 @@ public:
 Q_SIGNALS:
     /// The user wants to go where this is put right.
     void wanted(const Finding &finding);
-    /// The server is not asked any more, so that no question of its counts.
-    void gaveUp();
 
 private:
     void showFindings();

@@ -67,7 +67,6 @@ frmMain::frmMain(const WindowParts &parts)
     connect(&m_form, &Form::runStateChanged, this, &frmMain::applyRunState);
     connect(&m_form, &Form::situationChanged, this, &frmMain::showProgress);
     connect(&m_companions, &Companions::wanted, this, &frmMain::goTo);
-    connect(&m_companions, &Companions::gaveUp, this, &frmMain::gaveUp);
     connect(&m_form, &Form::captionChanged, this, [this] { setWindowTitle(m_form.caption()); });
     m_lifecycle.beforeUnload = [this] {
         m_place.save(*this, *m_ui->splitter, *m_ui->lstDestinatari->header());

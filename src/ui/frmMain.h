@@ -35,10 +35,6 @@ public:
     /// The desktop's session ends, or the program was asked to end.
     void endSession();
 
-Q_SIGNALS:
-    /// A page, a check or a test was given up: a question that it asked may not count any more.
-    void gaveUp();
-
 protected:
     void closeEvent(QCloseEvent *event) override;
     void showEvent(QShowEvent *event) override;

@@ -34,6 +34,7 @@ struct Rig
         smtp.Server = u"smtp.example.org"_s;
         ServerCertificate certificate;
         certificate.standing = ServerCertificate::Standing::Refused;
+        certificate.host = smtp.Server;
         certificate.owner = u"mail.provider.example"_s;
         certificate.issuer = u"Provider & Sons"_s;
         certificate.validFrom = QDateTime(QDate(2026, 1, 2), QTime(3, 4), Qt::UTC);
@@ -91,7 +92,7 @@ void TestCertificateQuestion::yesTrustsItForTheHostThatShowedIt()
     Rig rig;
     rig.fail();
     // The next session is with another server while the box is open.
-    rig.smtp.Server = u"other.example.org"_s;
+    rig.smtp.certificate->host = u"other.example.org"_s;
     const QByteArray fingerprint = rig.smtp.certificate->fingerprint;
     rig.smtp.certificate.reset();
     rig.prompts.expectAnswer(Topic::TrustCertificate, Answer::Yes);
@@ -124,7 +125,7 @@ void TestCertificateQuestion::sameCertificateIsAskedAboutOnceAtATime()
 {
     Rig rig;
     rig.fail();
-    rig.smtp.Server = u"SMTP.example.org"_s;
+    rig.smtp.certificate->host = u"SMTP.example.org"_s;
     rig.fail();
     QCOMPARE(rig.prompts.questions.size(), 1);
     rig.prompts.expectAnswer(Topic::TrustCertificate, Answer::No);

@@ -312,28 +312,20 @@ void TestLoginChain::requestThatNoLongerStandsGetsNoAnswer()
     QCOMPARE(rig.prompt.openBoxes(), 0);
 }
 
-void TestLoginChain::abandonedRequestIsAnsweredAndItsBoxNeedNotStayOpen()
+void TestLoginChain::boxOfARequestThatIsDroppedCloses()
 {
     ChainRig rig;
     rig.find();
     FakeServer::settle();
     QCOMPARE(rig.prompt.openBoxes(), 1);
-    rig.chain->abandon();
-    QCOMPARE(rig.prompt.openBoxes(), 0);
-    rig.prompt.answer(LoginEntry{u"me"_s, u"typed"_s, true});
+    rig.chain->dropStale();
     FakeServer::settle();
-    QCOMPARE(rig.answers, QStringList(u"the login is no longer wanted"_s));
-}
-
-void TestLoginChain::abandonedCommandIsAnswered()
-{
-    ChainRig rig;
-    rig.setAccount(u"me"_s, u"sleep 1000"_s);
-    rig.find();
+    QCOMPARE(rig.prompt.boxesLeft(), 1);
+    rig.stands = false;
+    rig.chain->dropStale();
     FakeServer::settle();
-    rig.chain->abandon();
-    FakeServer::settle();
-    QCOMPARE(rig.answers, QStringList(u"the login is no longer wanted"_s));
+    QCOMPARE(rig.prompt.boxesLeft(), 0);
+    QCOMPARE(rig.answers, QStringList());
 }
 
 void TestLoginChain::twoRequestsAreIndependent()

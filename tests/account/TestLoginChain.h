@@ -42,8 +42,7 @@ private Q_SLOTS:
     void answersAreNeverGivenFromInsideTheCall();
     void requestThatNoLongerStandsGetsNoAnswer_data();
     void requestThatNoLongerStandsGetsNoAnswer();
-    void abandonedRequestIsAnsweredAndItsBoxNeedNotStayOpen();
-    void abandonedCommandIsAnswered();
+    void boxOfARequestThatIsDroppedCloses();
     void twoRequestsAreIndependent();
     void chainThatIsGoneAnswersNothing();
 };

@@ -11,6 +11,7 @@ namespace {
 ServerCertificate exampleCertificate()
 {
     ServerCertificate certificate;
+    certificate.host = u"smtp.example.org"_s;
     certificate.owner = u"mail.provider.example"_s;
     certificate.issuer = u"Provider & Sons"_s;
     certificate.validFrom = QDateTime(QDate(2026, 1, 2), QTime(3, 4), Qt::UTC);
@@ -29,7 +30,7 @@ QString fingerprintOfAll(const QString &byte)
 void TestCertificateAdvice::adviceEndsWithTheCommandThatTrustsIt()
 {
     const QString fingerprint = fingerprintOfAll(u"EF"_s);
-    QCOMPARE(adviceOnCertificate(u"smtp.example.org"_s, exampleCertificate(), {}),
+    QCOMPARE(adviceOnCertificate(exampleCertificate(), {}),
              u"The certificate was issued to mail.provider.example by Provider & Sons, valid from "
              "2026-01-02 to 2027-01-02. Its fingerprint is\n"_s +
                  fingerprint +
@@ -42,9 +43,9 @@ void TestCertificateAdvice::adviceEndsWithTheCommandThatTrustsIt()
 void TestCertificateAdvice::certificatesThatAreTrustedStayTrusted()
 {
     const QByteArray other(32, '\x01');
-    const QString command = u"sorvanta-cli account h TrustedCertificates '"_s +
+    const QString command = u"sorvanta-cli account smtp.example.org TrustedCertificates '"_s +
                             fingerprintOfAll(u"01"_s) + u' ' + fingerprintOfAll(u"EF"_s) + u'\'';
-    QVERIFY(adviceOnCertificate(u"h"_s, exampleCertificate(), {other}).endsWith(command));
+    QVERIFY(adviceOnCertificate(exampleCertificate(), {other}).endsWith(command));
 }
 
 void TestCertificateAdvice::textsOfStrangersNeitherForgeLinesNorReachTheShell()
@@ -52,7 +53,8 @@ void TestCertificateAdvice::textsOfStrangersNeitherForgeLinesNorReachTheShell()
     ServerCertificate certificate = exampleCertificate();
     certificate.owner = u"a\r\nrm -rf ~\r\n"_s;
     certificate.issuer = u"\x1b[2J%5"_s;
-    const QString advice = adviceOnCertificate(u"a b';$(id)\n"_s, certificate, {});
+    certificate.host = u"a b';$(id)\n"_s;
+    const QString advice = adviceOnCertificate(certificate, {});
     const QStringList lines = advice.split(u'\n');
     QCOMPARE(lines.size(), 4);
     QVERIFY(lines.at(0).startsWith(

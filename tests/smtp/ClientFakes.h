@@ -13,6 +13,7 @@ class FakeLogins : public LoginSource
 public:
     QStringList events; ///< "asked", "accepted anna", "refused anna", in order
     LoginRequest request;
+    int dropped = 0; ///< how often requests were said to be stale
 
     [[nodiscard]] bool isAsked() const { return m_then != nullptr; }
     void answer(const LoginAnswer &answer) { std::exchange(m_then, nullptr)(answer); }
@@ -24,6 +25,7 @@ public:
                                            : QStringLiteral("asked again: ") + wanted.refusal;
         m_then = std::move(then);
     }
+    void dropStale() override { ++dropped; }
     void accepted(const ServerAddress &, const Login &login) override
     {
         events += QStringLiteral("accepted ") + login.user;

@@ -179,6 +179,8 @@ QString Dialogue::serverSays(const QString &line)
         server.encrypt("220 go ahead\r\n"_qba);
     else if (line == u"<injects>")
         server.say("220 go ahead\r\n250 server.example\r\n"_qba);
+    else if (line == u"<welcomes and accepts>")
+        server.say("235 welcome\r\n250 queued\r\n"_qba);
     else if (line == u"<talks on>")
         server.say("220 go ahead\r\n"_qba);
     else if (line == u"<endless line>")

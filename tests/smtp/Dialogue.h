@@ -22,6 +22,7 @@
 ///     S: <nothing>          the server lets a limit pass
 ///     S: <encrypts>         the server says "220 go ahead" and begins TLS
 ///     S: <injects>          it says that, and a reply behind it in one breath
+///     S: <welcomes and accepts> the server says 235, and 250 behind it in one breath
 ///     S: <talks on>         it says that, and what is no TLS when the client has begun
 ///     C: <empty line>       the client says nothing but a line end
 ///     C: <encrypts>         the handshake succeeds

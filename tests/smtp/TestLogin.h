@@ -14,6 +14,11 @@ private Q_SLOTS:
     void refusalInPlainWords_data();
     void refusalInPlainWords();
     void unverifiedCertificateGetsNoPassword();
+    void noClearLineAfterAHangUpDuringTheQuestion();
+    void trustInOneCertificateIsNoneInAnotherAfterAHangUp();
+    void messageHeldForALoginIsGivenUpByDisconnect();
+    void repliesAheadOfAHeldMessageAreOutOfStep();
+    void veryManyMechanismsDoNoHarm();
     void resetDropsTheQuestion();
     void messageHeldForALoginIsNotTakenWhenNoneIsKnown();
     void traceIsWholeToTheEnd();

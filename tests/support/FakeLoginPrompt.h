@@ -19,12 +19,19 @@ public:
         m_open.push_back({std::move(stands), std::move(then)});
     }
 
+    void closeStale() override
+    {
+        std::erase_if(m_open, [](const Open &open) { return !open.stands(); });
+    }
+
     /// The boxes that need an answer still.
     [[nodiscard]] int openBoxes() const
     {
         return static_cast<int>(std::count_if(m_open.begin(), m_open.end(),
                                               [](const Open &open) { return open.stands(); }));
     }
+    /// The boxes that were neither answered nor closed.
+    [[nodiscard]] int boxesLeft() const { return static_cast<int>(m_open.size()); }
     /// Answers the box that has been open longest; nothing is Cancel.
     void answer(const std::optional<LoginEntry> &entry)
     {

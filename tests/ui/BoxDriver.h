@@ -24,8 +24,6 @@ public:
                          Qt::QueuedConnection);
         QObject::connect(&form, &Form::runStateChanged, &prompts, &WindowPrompts::closeStale,
                          Qt::QueuedConnection);
-        QObject::connect(window.get(), &frmMain::gaveUp, &prompts, &WindowPrompts::closeStale,
-                         Qt::QueuedConnection);
     }
 
     /// The shown box of that name, or none.

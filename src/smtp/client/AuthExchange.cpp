@@ -14,9 +14,11 @@ QByteArray tokenResponse(const Login &login)
 }
 
 tl::expected<AuthExchange, QString> AuthExchange::begin(const Login &login,
-                                                        const QList<QByteArray> &offeredMechanisms)
+                                                        const Extensions &extensions)
 {
-    const auto offers = [&](const QByteArray &name) { return offeredMechanisms.contains(name); };
+    const auto offers = [&](const QByteArray &name) {
+        return extensions.authMechanisms.contains(name);
+    };
     if (login.user.contains(QChar::Null) || login.secret.contains(QChar::Null))
         return tl::unexpected(u"the user name or the password holds a NUL character"_s);
     if (login.kind == Login::Kind::Token && offers("XOAUTH2"_qba)) {
@@ -29,12 +31,12 @@ tl::expected<AuthExchange, QString> AuthExchange::begin(const Login &login,
         return AuthExchange("LOGIN"_qba, std::nullopt,
                             {login.user.toUtf8().toBase64(), login.secret.toUtf8().toBase64()});
     }
-    const QString offered = QString::fromLatin1(offeredMechanisms.join(", "));
     return tl::unexpected(
         login.kind == Login::Kind::Token
-            ? u"the server does not take an access token (XOAUTH2); it offers "_s + offered
+            ? u"the server does not take an access token (XOAUTH2); it offers "_s +
+                  extensions.authOffer
             : u"the server takes no password in a way that this program knows; it offers "_s +
-                  offered);
+                  extensions.authOffer);
 }
 
 QByteArray AuthExchange::command() const
@@ -42,7 +44,9 @@ QByteArray AuthExchange::command() const
     return "AUTH " + m_mechanism + (m_initial ? ' ' + *m_initial : QByteArray()) + "\r\n";
 }
 
-QByteArray AuthExchange::answer()
+std::optional<QByteArray> AuthExchange::answer()
 {
-    return m_answers.isEmpty() ? "*\r\n"_qba : m_answers.takeFirst() + "\r\n";
+    if (m_answers.isEmpty())
+        return std::nullopt;
+    return m_answers.takeFirst() + "\r\n";
 }

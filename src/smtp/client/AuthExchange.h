@@ -1,7 +1,7 @@
 #pragma once
 
 #include "smtp/LoginSource.h"
-#include "smtp/client/ReplyReader.h"
+#include "smtp/client/Extensions.h"
 
 #include <QList>
 
@@ -16,15 +16,15 @@ class AuthExchange
 {
 public:
     /// By the best mechanism that suits the login; the error says, in plain words, that none does.
-    [[nodiscard]] static tl::expected<AuthExchange, QString>
-    begin(const Login &login, const QList<QByteArray> &offeredMechanisms);
+    [[nodiscard]] static tl::expected<AuthExchange, QString> begin(const Login &login,
+                                                                   const Extensions &extensions);
 
     [[nodiscard]] QByteArray mechanism() const { return m_mechanism; }
     /// The command that begins it, with its line end.
     [[nodiscard]] QByteArray command() const;
-    /// The answer to the server's next challenge (a reply 334), with its line end; "*", which
-    /// cancels the exchange, when there is nothing more to say.
-    [[nodiscard]] QByteArray answer();
+    /// The answer to the server's next challenge (a reply 334), with its line end; nothing when
+    /// there is nothing more to say.
+    [[nodiscard]] std::optional<QByteArray> answer();
 
 private:
     AuthExchange(QByteArray mechanism, std::optional<QByteArray> initial, QList<QByteArray> answers)

@@ -93,6 +93,7 @@ ServerCertificate describe(const QSslCertificate &certificate, const QList<QSslE
         problems += meaningOf(error, certificate, host);
     problems.removeDuplicates();
     ServerCertificate description;
+    description.host = host;
     description.owner = nameOf(certificate);
     description.names = namesOf(certificate);
     description.issuer = issuerOf(certificate);

@@ -2,6 +2,14 @@
 
 #include "smtp/client/ReplyReader.h"
 
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype LongestOffer = 200;
+
+} // namespace
+
 Extensions Extensions::fromEhlo(const QByteArray &lines)
 {
     Extensions extensions;
@@ -22,8 +30,10 @@ Extensions Extensions::fromEhlo(const QByteArray &lines)
         } else if (keyword == "STARTTLS") {
             extensions.startTls = true;
         } else if (keyword == "AUTH") {
-            for (const QByteArray &mechanism : words.sliced(1)) {
-                if (!extensions.authMechanisms.contains(mechanism))
+            extensions.auth = true;
+            extensions.authOffer = printable(line.mid(5).left(LongestOffer));
+            for (const QByteArray &mechanism : {"PLAIN"_qba, "LOGIN"_qba, "XOAUTH2"_qba}) {
+                if (words.contains(mechanism) && !extensions.authMechanisms.contains(mechanism))
                     extensions.authMechanisms += mechanism;
             }
         } else if (keyword == "SIZE") {

@@ -20,16 +20,7 @@ Session::Session(const ClientSurroundings &from, QObject *parent)
       m_watchdog([this] { onLimit(); }),
       m_reader(from.limits),
       m_trace(from.trace)
-{
-    connect(&m_socket, &QSslSocket::hostFound, this, [this] { reach(ServerStep::Found); });
-    connect(&m_socket, &QSslSocket::connected, this, &Session::onConnected);
-    connect(&m_socket, &QSslSocket::readyRead, this, &Session::onReadyRead);
-    connect(&m_socket, &QSslSocket::errorOccurred, this, &Session::onSocketError);
-    connect(&m_socket, &QSslSocket::bytesWritten, this, &Session::onBytesWritten);
-    connect(&m_socket, &QSslSocket::encryptedBytesWritten, this, &Session::moveLimit);
-    connect(&m_socket, &QSslSocket::sslErrors, this, &Session::onSslErrors);
-    connect(&m_socket, &QSslSocket::encrypted, this, &Session::onEncrypted);
-}
+{}
 
 void Session::enter(Phase phase, const QString &reason)
 {
@@ -42,13 +33,23 @@ void Session::open(const ServerAddress &server, const Experience &experience)
 {
     m_server = server;
     m_experience = experience;
-    m_account = m_from.accounts.account(server.host);
     m_trace.begin(server);
     connectToServer();
 }
 
 void Session::connectToServer()
 {
+    // Read anew each time: what an earlier connection has taught counts.
+    m_account = m_from.accounts.account(m_server.host);
+    m_socket = std::make_unique<QSslSocket>();
+    connect(m_socket.get(), &QSslSocket::hostFound, this, [this] { reach(ServerStep::Found); });
+    connect(m_socket.get(), &QSslSocket::connected, this, &Session::onConnected);
+    connect(m_socket.get(), &QSslSocket::readyRead, this, &Session::onReadyRead);
+    connect(m_socket.get(), &QSslSocket::errorOccurred, this, &Session::onSocketError);
+    connect(m_socket.get(), &QSslSocket::bytesWritten, this, &Session::onBytesWritten);
+    connect(m_socket.get(), &QSslSocket::encryptedBytesWritten, this, &Session::moveLimit);
+    connect(m_socket.get(), &QSslSocket::sslErrors, this, &Session::onSslErrors);
+    connect(m_socket.get(), &QSslSocket::encrypted, this, &Session::onEncrypted);
     m_report = {};
     m_report.server = m_server;
     m_extensions = {};
@@ -58,8 +59,8 @@ void Session::connectToServer()
     enter(Phase::Connecting, u"a session is wanted"_s);
     m_trace.note(u"connecting"_s);
     m_watchdog.start(m_from.limits.opening);
-    m_socket.setProxy(QNetworkProxy::NoProxy);
-    m_socket.connectToHost(m_server.host, m_server.port);
+    m_socket->setProxy(QNetworkProxy::NoProxy);
+    m_socket->connectToHost(m_server.host, m_server.port);
 }
 
 void Session::onReadyRead()
@@ -73,13 +74,15 @@ void Session::readReplies()
 {
     char buffer[4096];
     while (isListening()) {
-        const qint64 count = m_socket.read(buffer, sizeof buffer);
+        const qint64 count = m_socket->read(buffer, sizeof buffer);
         if (count <= 0)
             break;
         m_reader.feed(QByteArrayView(buffer, count));
         while (isListening()) {
             const auto reply = m_reader.next();
-            if (!reply)
+            if (!reply && m_phase == Phase::Login)
+                dropConnection();
+            else if (!reply)
                 fail(SmtpErrorNumber::Unreadable, reply.error());
             else if (*reply)
                 takeReply(*std::move(*reply));
@@ -160,11 +163,11 @@ void Session::pump()
         m_trace.client(u"(the message, %1 bytes)"_s.arg(contentSize));
     m_unwritten += outgoing.commands.size() + contentSize;
     if (!outgoing.commands.isEmpty())
-        m_socket.write(outgoing.commands);
+        m_socket->write(outgoing.commands);
     for (const QByteArray &piece : outgoing.content)
-        m_socket.write(piece);
+        m_socket->write(piece);
     if (!outgoing.commands.isEmpty() || contentSize > 0)
-        m_socket.flush(); // all pieces at once, without a turn of the event loop
+        m_socket->flush(); // all pieces at once, without a turn of the event loop
     // A failure inside flush has settled the message already.
     if (m_transaction && m_transaction->isSettled() && !holdForLogin()) {
         const QString reason = m_transaction->reasonToEnd();
@@ -186,13 +189,13 @@ bool Session::holdForLogin()
         !m_transaction->reasonToEnd().isEmpty())
         return false;
     const LoginRefusal meaning = LoginRefusal::of(wish);
-    if (isLoggedIn ? !meaning.isFinal : m_extensions.authMechanisms.isEmpty() && wish.code != 530)
+    if (isLoggedIn ? !meaning.isFinal : !m_extensions.auth && wish.code != 530)
         return false;
     m_heldLetter = m_transaction->letter();
     m_transaction.reset();
     m_needsReset = true;
     m_experience.wantsLogin = true;
-    if (isLoggedIn || m_extensions.authMechanisms.isEmpty())
+    if (isLoggedIn || !m_extensions.auth)
         fail(SmtpErrorNumber::LoginFailed, meaning.text);
     else
         logIn();
@@ -221,11 +224,14 @@ void Session::fail(SmtpErrorNumber number, const QString &reason)
         settle();
     }
     const bool isQuitting = m_phase == Phase::Quit;
+    const bool wasLookingForLogin = m_phase == Phase::Login;
     enter(Phase::Off, m_fault.reason);
     m_trace.note(m_fault.reason);
     m_report.failure = m_fault.reason;
     m_report.failureNumber = number;
     m_hasNews = true;
+    if (wasLookingForLogin)
+        endLoginSearch();
     dropConnection();
     if (isQuitting)
         deleteLater();
@@ -235,9 +241,13 @@ void Session::dropConnection()
 {
     m_watchdog.stop();
     m_exchange.reset();
-    if (m_phase != Phase::Login)
-        ++m_loginSearch; // nobody waits for its answer any more
-    m_socket.abort();
+    m_socket->abort();
+}
+
+void Session::endLoginSearch()
+{
+    ++m_loginSearch;
+    m_from.logins.dropStale();
 }
 
 void Session::quit()
@@ -253,6 +263,14 @@ void Session::quit()
     }
 }
 
+void Session::withdrawHeld()
+{
+    if (m_heldLetter) {
+        fail(SmtpErrorNumber::LoginFailed, u"the login is no longer wanted"_s);
+        report();
+    }
+}
+
 void Session::say(const QByteArray &line)
 {
     m_trace.commands(line);
@@ -262,8 +280,8 @@ void Session::say(const QByteArray &line)
 void Session::write(const QByteArray &bytes)
 {
     m_unwritten += bytes.size();
-    m_socket.write(bytes);
-    m_socket.flush();
+    m_socket->write(bytes);
+    m_socket->flush();
 }
 
 void Session::onBytesWritten(qint64 count)
@@ -281,8 +299,8 @@ void Session::onSocketError()
         dropConnection();
         return;
     }
-    const bool isSilent = m_socket.error() == QAbstractSocket::RemoteHostClosedError;
-    const QString reason = m_socket.errorString();
+    const bool isSilent = m_socket->error() == QAbstractSocket::RemoteHostClosedError;
+    const QString reason = m_socket->errorString();
     const bool isRefusal = m_report.certificate &&
                            m_report.certificate->standing == ServerCertificate::Standing::Refused;
     if (m_phase == Phase::Tls && isRefusal)

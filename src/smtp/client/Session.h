@@ -13,6 +13,7 @@
 #include <QObject>
 #include <QSslSocket>
 
+#include <memory>
 #include <optional>
 
 /// What became of the message that a session carried.
@@ -63,6 +64,8 @@ public:
     void quit();
 
     [[nodiscard]] Phase phase() const { return m_phase; }
+    /// Gives up a message that waits for a login; the server has certainly not taken it.
+    void withdrawHeld();
     /// Why a session is off.
     [[nodiscard]] const SessionFault &fault() const { return m_fault; }
     /// What the server was like so far.
@@ -95,7 +98,7 @@ private:
     void readReplies();
     [[nodiscard]] bool isListening() const
     {
-        return m_phase != Phase::Off && m_phase != Phase::Tls && m_socket.isOpen();
+        return m_phase != Phase::Off && m_phase != Phase::Tls && m_socket->isOpen();
     }
     void takeReply(WireReply reply);
     /// Writes a command that is no secret.
@@ -103,14 +106,15 @@ private:
     void write(const QByteArray &bytes);
     [[nodiscard]] bool isAllWritten() const
     {
-        return m_unwritten == 0 && m_socket.encryptedBytesToWrite() == 0;
+        return m_unwritten == 0 && m_socket->encryptedBytesToWrite() == 0;
     }
     void moveLimit();
     void report();
     /// The session cannot go on: it settles its message and is off.
     void fail(SmtpErrorNumber number, const QString &reason);
-    /// What fail does to the socket and to what is waited for.
     void dropConnection();
+    /// Nobody waits for the login that is looked for.
+    void endLoginSearch();
 
     // From the greeting to a session that is ready
     void reach(ServerStep step);
@@ -127,6 +131,7 @@ private:
     void takeLogin(const LoginAnswer &answer);
     void authenticate();
     void takeAuthReply(const WireReply &reply);
+    void answerChallenge();
     void loginRefused(const ServerReply &reply);
     void becomeReady(const QString &reason);
 
@@ -140,7 +145,7 @@ private:
     ServerAddress m_server;
     ServerAccount m_account;
     Experience m_experience;
-    QSslSocket m_socket;
+    std::unique_ptr<QSslSocket> m_socket; ///< a fresh one for each connection
     Watchdog m_watchdog;
     ReplyReader m_reader;
     SessionTrace m_trace;

@@ -36,8 +36,8 @@ void Session::onConnected()
 {
     // The data of one message are written in several pieces: they must not wait for each other's
     // acknowledgement.
-    m_socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
-    m_report.address = m_socket.peerAddress().toString();
+    m_socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    m_report.address = m_socket->peerAddress().toString();
     m_trace.note(u"connected to "_s + m_report.address);
     if (m_server.port == m_from.ports.submissions) {
         beginTls();
@@ -60,7 +60,7 @@ void Session::hello(Phase phase, const QString &reason)
 {
     enter(phase, reason);
     say((phase == Phase::Ehlo ? "EHLO " : "HELO ") +
-        ehloName(m_from.hostName, m_socket.localAddress()) + "\r\n");
+        ehloName(m_from.hostName, m_socket->localAddress()) + "\r\n");
 }
 
 void Session::takeHelloReply(const WireReply &reply)
@@ -78,13 +78,13 @@ void Session::takeHelloReply(const WireReply &reply)
 
 void Session::afterHello()
 {
-    if (!m_socket.isEncrypted() && m_extensions.startTls) {
+    if (!m_socket->isEncrypted() && m_extensions.startTls) {
         m_from.accounts.rememberStartTls(m_server);
         enter(Phase::StartTls, u"the server offers encryption"_s);
         say("STARTTLS\r\n"_qba);
         return;
     }
-    if (!m_socket.isEncrypted() && m_account.startTlsPorts.contains(m_server.port)) {
+    if (!m_socket->isEncrypted() && m_account.startTlsPorts.contains(m_server.port)) {
         fail(SmtpErrorNumber::NoEncryption,
              u"the server used to offer encryption (STARTTLS) and does not offer it any more; "
              u"somebody may be listening in between, so nothing was sent"_s);
@@ -94,11 +94,10 @@ void Session::afterHello()
     m_report.largestMessage = m_extensions.largestMessage;
     m_extensions.pipelining = m_extensions.pipelining && m_account.usePipelining;
     m_extensions.chunking = m_extensions.chunking && m_account.useChunking && m_experience.mayChunk;
-    const bool offersLogin = !m_extensions.authMechanisms.isEmpty();
     const bool wantsLogin = m_from.ports.wantsLogin(m_server.port) || !m_account.user.isEmpty() ||
                             m_experience.wantsLogin;
-    m_report.login = offersLogin ? LoginState::NotWanted : LoginState::NotOffered;
-    if (offersLogin && wantsLogin)
+    m_report.login = m_extensions.auth ? LoginState::NotWanted : LoginState::NotOffered;
+    if (m_extensions.auth && wantsLogin)
         logIn();
     else
         becomeReady(u"the server is willing"_s);
@@ -108,7 +107,7 @@ void Session::beginTls()
 {
     // What came before the handshake may be anybody's: it must not be taken for the server's word
     // on the encrypted line (RFC 3207, section 6).
-    if (!m_reader.isEmpty() || m_socket.bytesAvailable() > 0) {
+    if (!m_reader.isEmpty() || m_socket->bytesAvailable() > 0) {
         fail(SmtpErrorNumber::CannotEncrypt,
              u"the server went on talking before the encryption began; somebody may have put "
              u"words into its mouth, so nothing was sent"_s);
@@ -121,18 +120,18 @@ void Session::beginTls()
     enter(Phase::Tls, u"encryption begins"_s);
     m_extensions = {};
     m_watchdog.start(m_from.limits.opening);
-    QSslConfiguration configuration = m_socket.sslConfiguration();
+    QSslConfiguration configuration = m_socket->sslConfiguration();
     configuration.setProtocol(QSsl::TlsV1_2OrLater); // RFC 8997
     configuration.setPeerVerifyMode(QSslSocket::VerifyPeer);
-    m_socket.setSslConfiguration(configuration);
-    m_socket.setPeerVerifyName(m_server.host);
-    m_socket.startClientEncryption();
+    m_socket->setSslConfiguration(configuration);
+    m_socket->setPeerVerifyName(m_server.host);
+    m_socket->startClientEncryption();
 }
 
 void Session::onSslErrors(const QList<QSslError> &errors)
 {
     using Standing = ServerCertificate::Standing;
-    ServerCertificate certificate = describe(m_socket.peerCertificate(), errors, m_server.host);
+    ServerCertificate certificate = describe(m_socket->peerCertificate(), errors, m_server.host);
     const bool staysWithoutLogin =
         m_server.port == m_from.ports.relay && m_account.user.isEmpty() && !m_experience.wantsLogin;
     if (m_account.trustedCertificates.contains(certificate.fingerprint))
@@ -142,7 +141,7 @@ void Session::onSslErrors(const QList<QSslError> &errors)
     m_report.certificate = certificate;
     // A refusal is the handshake's failure, which comes as the socket's next error.
     if (certificate.standing != Standing::Refused)
-        m_socket.ignoreSslErrors(errors);
+        m_socket->ignoreSslErrors(errors);
 }
 
 void Session::refuseCertificate()
@@ -157,8 +156,8 @@ void Session::refuseCertificate()
 void Session::onEncrypted()
 {
     if (!m_report.certificate)
-        m_report.certificate = describe(m_socket.peerCertificate(), {}, m_server.host);
-    const QSslCipher cipher = m_socket.sessionCipher();
+        m_report.certificate = describe(m_socket->peerCertificate(), {}, m_server.host);
+    const QSslCipher cipher = m_socket->sessionCipher();
     m_report.encryption = cipher.protocolString() + u", "_s + cipher.name();
     m_trace.note(u"encrypted: "_s + m_report.encryption);
     if (m_server.port == m_from.ports.submissions) {
@@ -179,7 +178,7 @@ bool Session::mayCarryPassword(const QHostAddress &server, bool isEncrypted)
 
 void Session::logIn()
 {
-    if (!mayCarryPassword(m_socket.peerAddress(), m_socket.isEncrypted())) {
+    if (!mayCarryPassword(m_socket->peerAddress(), m_socket->isEncrypted())) {
         fail(SmtpErrorNumber::NoEncryption,
              u"the server wants a login and does not offer encryption; no password is sent on a "
              u"line that others can read"_s);
@@ -223,7 +222,7 @@ void Session::takeLogin(const LoginAnswer &answer)
     }
     m_login = *answer;
     m_secrets.learn(*answer);
-    if (m_socket.state() == QAbstractSocket::ConnectedState)
+    if (m_socket->state() == QAbstractSocket::ConnectedState)
         authenticate();
     else
         connectToServer();
@@ -231,7 +230,7 @@ void Session::takeLogin(const LoginAnswer &answer)
 
 void Session::authenticate()
 {
-    const auto exchange = AuthExchange::begin(*m_login, m_extensions.authMechanisms);
+    const auto exchange = AuthExchange::begin(*m_login, m_extensions);
     m_report.loginUser = m_login->user;
     if (!exchange) {
         m_report.login = LoginState::Failed;
@@ -249,8 +248,7 @@ void Session::takeAuthReply(const WireReply &reply)
 {
     const ServerReply said = reply.toServerReply(SmtpVerb::Auth);
     if (reply.code == 334) {
-        m_trace.client(u"***"_s);
-        write(m_exchange->answer());
+        answerChallenge();
     } else if (said.isPositive()) {
         m_exchange.reset();
         m_loginRefusals = 0;
@@ -259,6 +257,20 @@ void Session::takeAuthReply(const WireReply &reply)
         becomeReady(u"logged in"_s);
     } else {
         loginRefused(said);
+    }
+}
+
+void Session::answerChallenge()
+{
+    const auto answer = m_exchange->answer();
+    if (answer) {
+        m_trace.client(u"***"_s);
+        write(*answer);
+    } else {
+        m_report.login = LoginState::Failed;
+        fail(SmtpErrorNumber::LoginFailed,
+             u"the server asks for more than a login by %1 has to say"_s.arg(
+                 m_report.loginMechanism));
     }
 }
 
@@ -282,6 +294,10 @@ void Session::becomeReady(const QString &reason)
 {
     if (m_report.reached != ServerStep::Ready)
         reach(ServerStep::Ready);
+    if (m_heldLetter && !m_reader.isEmpty()) {
+        fail(SmtpErrorNumber::Unreadable, u"the server's replies are out of step"_s);
+        return;
+    }
     if (m_heldLetter) {
         begin(*std::exchange(m_heldLetter, std::nullopt));
         return;

@@ -33,6 +33,9 @@ void SmtpClient::Disconnect()
 {
     const Call call(*this);
     endSession();
+    // It would wait for a login that nobody wants any more.
+    if (m_inFlight && m_session)
+        m_session->withdrawHeld();
 }
 
 void SmtpClient::Connect()
@@ -141,7 +144,8 @@ void SmtpClient::onReported(const std::optional<Settlement> &settlement)
 {
     const bool hasEnded = m_session->phase() == Session::Phase::Off;
     const SessionFault fault = m_session->fault();
-    if (m_session->wantsLogin())
+    // A refusal alone may have had other reasons.
+    if (m_session->wantsLogin() && m_session->description().login == LoginState::Accepted)
         m_experiences[m_target.toText()].wantsLogin = true;
     const auto certificate = m_session->description().certificate;
     if (hasEnded)

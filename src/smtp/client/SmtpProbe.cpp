@@ -27,6 +27,8 @@ void SmtpProbe::giveUp()
 
 void SmtpProbe::onFound(const QHostInfo &host)
 {
+    if (m_lookup != host.lookupId()) // of one that was given up
+        return;
     m_lookup.reset();
     m_addresses.clear();
     for (const QHostAddress &address : host.addresses())
