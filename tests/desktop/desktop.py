@@ -11,13 +11,17 @@ from pathlib import Path
 from accessibility import ACTIVE, ENABLED, FOCUSED, SHOWING, Accessibility
 from waiting import PATIENCE, Gone, until
 
+LEFT, RIGHT = 1, 3  # buttons of the mouse
+KEYRING = "org.freedesktop.secrets"  # its name on the bus
 KEYBOARD_PAUSE = "4"  # milliseconds between two letters
 
 
 class Desktop:
     """Lives within a `with`. The environment says whose it is: HOME and XDG_CONFIG_HOME above all."""
 
-    def __init__(self, environment, width=1920, height=1080, scale=1, keyboard="us"):
+    def __init__(
+        self, environment, width=1920, height=1080, scale=1, keyboard="us", keyring=False
+    ):
         home = Path(environment["HOME"])
         runtime = home / ".runtime"
         runtime.mkdir(mode=0o700)
@@ -30,6 +34,7 @@ class Desktop:
         self.size = (width, height)
         self.scale = scale
         self.keyboard = keyboard
+        self.keyring = keyring
         self._said = home / ".desktop.log"
         self._log = None
         self._ending = ExitStack()
@@ -41,6 +46,8 @@ class Desktop:
             address = self._start_bus(ending)
             self.accessibility = Accessibility(address)
             ending.callback(self.accessibility.close)
+            if self.keyring:
+                self._start_keyring(ending)
             self._start_window_manager(ending)
             self._ending = ending.pop_all()
         return self
@@ -63,23 +70,37 @@ class Desktop:
         subprocess.run(["setxkbmap", self.keyboard], env=self.environment, check=True)
 
     def _start_bus(self, ending):
+        # The bus would start the keyring of a machine that has one, when somebody asks for it.
+        services = Path(self.environment["XDG_RUNTIME_DIR"]) / "dbus-1" / "services"
+        services.mkdir(parents=True)
+        no_keyring = f"[D-BUS Service]\nName={KEYRING}\nExec=/bin/false\n"
+        (services / f"{KEYRING}.service").write_text(no_keyring, encoding="utf-8")
         command = ["dbus-daemon", "--session", "--nofork", "--print-address"]
         daemon = self._run(ending, *command, stdout=subprocess.PIPE)
         address = daemon.stdout.readline().decode().strip()
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = address
         return address
 
+    def _start_keyring(self, ending):
+        """A keyring that is open."""
+        command = ["gnome-keyring-daemon", "--foreground", "--unlock", "--components=secrets"]
+        daemon = self._run(ending, *command, stdin=subprocess.PIPE)
+        with daemon.stdin as password:
+            password.write(b"throwaway")
+        waiting = ["gdbus", "wait", "--session", "--timeout", str(PATIENCE), KEYRING]
+        subprocess.run(waiting, env=self.environment, check=True)
+
     def _start_window_manager(self, ending):
         self._run(ending, "openbox", "--sm-disable")
         managed = ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]
         until("the window manager", lambda: b"window id" in self._output(*managed))
 
-    def _run(self, ending, *command, stdout=None, pass_fds=()):
+    def _run(self, ending, *command, stdin=subprocess.DEVNULL, stdout=None, pass_fds=()):
         """Starts a program of the desktop, which ends with it."""
         process = subprocess.Popen(
             command,
             env=self.environment,
-            stdin=subprocess.DEVNULL,
+            stdin=stdin,
             stdout=stdout or self._log,
             stderr=self._log,
             pass_fds=pass_fds,
@@ -116,7 +137,7 @@ class Desktop:
         command = ["xdotool", "type", "--delay", KEYBOARD_PAUSE, "--", text]
         subprocess.run(command, env=self.environment, check=True)
 
-    def click(self, control, button=1):
+    def click(self, control, button=LEFT):
         """Clicks on the middle of a control."""
         left, top, width, height = (number * self.scale for number in control.place)
         place = (str(round(left + width / 2)), str(round(top + height / 2)))
@@ -223,10 +244,10 @@ class Program:
 
         return until(f"a {role} '{name}' in '{window.name}'", found)
 
-    def click(self, control):
+    def click(self, control, button=LEFT):
         """Clicks on a control, once it is enabled."""
         until(lambda: f"{control} to be enabled", lambda: control.has(ENABLED))
-        self.desktop.click(control)
+        self.desktop.click(control, button)
 
     def fill(self, field, text):
         """Clicks into a field and types a text in place of its own."""

@@ -11,7 +11,7 @@ from pathlib import Path
 SOURCES = Path(os.environ["SORVANTA_SOURCES"])
 sys.path.insert(0, str(SOURCES / "tests" / "e2e"))
 
-from endtoend import EndToEnd, copied, rows  # noqa: E402, F401  the path is set above
+from endtoend import WORK, EndToEnd, copied, rows  # noqa: E402, F401  the path is set above
 from server import Server  # noqa: E402
 
 from catalogue import Catalogue  # noqa: E402
@@ -25,6 +25,7 @@ class AtTheDesktop(EndToEnd):
     """A test with a desktop."""
 
     italian = False
+    keyring = False
 
     def setUp(self):
         super().setUp()
@@ -33,12 +34,16 @@ class AtTheDesktop(EndToEnd):
         if self.italian:
             self.assertEqual(self.program.run("settings", "Language", "1").status, 0)
         keyboard = "it" if self.italian else "us"
-        desktop = Desktop(self.program.environment, keyboard=keyboard)
+        desktop = Desktop(self.program.environment, keyboard=keyboard, keyring=self.keyring)
         self.desktop = desktop.__enter__()
         self.addCleanup(desktop.__exit__)
-        self.server = Server()
+        self.server = self.serve()
         self.server.__enter__()
         self.addCleanup(self.server.__exit__)
+
+    def serve(self):
+        """The server of the test."""
+        return Server()
 
     def start(self, *arguments):
         """Starts the program."""

@@ -2,6 +2,8 @@
 
 import asyncio
 import email
+import logging
+import ssl
 import threading
 from collections import Counter
 from dataclasses import dataclass
@@ -9,10 +11,18 @@ from email import policy
 from email.header import decode_header, make_header
 from email.utils import parseaddr
 
-from aiosmtpd.smtp import SMTP
+from aiosmtpd.smtp import SMTP, AuthResult, TLSSetupException
 
 # Where a server can fail: at its greeting, at a command, or at the reply to the content.
 POINTS = ("greeting", "EHLO", "MAIL", "RCPT", "DATA", "content")
+
+def is_news(record):
+    """Whether something went wrong, and no client only left because of the certificate."""
+    is_error = record.levelno >= logging.ERROR
+    return is_error and not (record.exc_info and record.exc_info[0] is TLSSetupException)
+
+
+logging.getLogger("mail.log").addFilter(is_news)
 
 
 @dataclass
@@ -62,7 +72,14 @@ class Dialogue(SMTP):
 
     def __init__(self, server):
         super().__init__(
-            server, data_size_limit=0, enable_SMTPUTF8=True, hostname="e2e.example", loop=server.loop
+            server,
+            data_size_limit=0,
+            enable_SMTPUTF8=True,
+            hostname="e2e.example",
+            loop=server.loop,
+            tls_context=server.encryption,
+            auth_require_tls=not server.passwords,
+            authenticator=server.login,
         )
         self.server = server
         self.number = 0
@@ -71,7 +88,8 @@ class Dialogue(SMTP):
             self._smtp_methods[verb] = self._failing(verb, self._smtp_methods[verb])
 
     def connection_made(self, transport):
-        self.number = self.server.count_connection()
+        # Again when it is encrypted.
+        self.number = self.number or self.server.count_connection()
         super().connection_made(transport)
 
     async def _handle_client(self):
@@ -114,8 +132,17 @@ class Dialogue(SMTP):
 class Server:
     """Runs in a thread of its own, within a `with`."""
 
-    def __init__(self, extensions=()):
+    def __init__(self, extensions=(), passwords=None, certificate=None):
+        """With passwords, by user, it takes messages only from who has logged in. With a
+        certificate, the path of NAME.pem beside NAME.key, it offers STARTTLS.
+        """
         self.extensions = list(extensions)
+        self.passwords = passwords or {}
+        self.logins = []
+        self.encryption = None
+        if certificate:
+            self.encryption = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
+            self.encryption.load_cert_chain(certificate, certificate.with_suffix(".key"))
         self.received = []
         self.connections = 0
         self.commands = Counter()
@@ -184,6 +211,21 @@ class Server:
         """Offers the test's extensions besides."""
         session.host_name = hostname
         return responses[:-1] + [f"250-{name}" for name in self.extensions] + responses[-1:]
+
+    def login(self, dialogue, session, envelope, mechanism, data):
+        """Takes a login whose password is right."""
+        user, password = data.login.decode(), data.password.decode()
+        is_right = self.passwords.get(user) == password
+        self.logins.append((user, is_right))
+        return AuthResult(success=is_right, handled=False)
+
+    async def handle_MAIL(self, dialogue, session, envelope, address, options):
+        """Takes a sender, once it has logged in where that is wanted."""
+        if self.passwords and not session.authenticated:
+            return "530 5.7.0 Authentication required"
+        envelope.mail_from = address
+        envelope.mail_options.extend(options)
+        return "250 2.1.0 OK"
 
     async def handle_RCPT(self, dialogue, session, envelope, address, options):
         """Takes an address unless the test has it refused."""
