@@ -48,6 +48,8 @@ void CertificateQuestion::askAbout(const QString &host, const ServerCertificate 
     box.buttons = Buttons::YesNo;
     box.title = tr("Certificate");
     box.text = question(host, certificate);
+    // It comes right behind the notice of the failed run, which Enter closes.
+    box.enterIsNo = true;
     // The answer is about the server, not about the run that met it: it counts as long as there is
     // somebody to take it.
     const auto stands = [self = QPointer(this)] { return !self.isNull(); };

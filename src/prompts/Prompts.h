@@ -41,6 +41,8 @@ struct Question
     Buttons buttons = Buttons::YesNo;
     QString title;
     QString text;
+    /// Enter is Yes, or No where nobody should agree without having read it.
+    bool enterIsNo = false;
 };
 
 /// A box for one line of text.

@@ -84,7 +84,10 @@ MessageBox::MessageBox(const ::Question &question, QWidget *window)
     : MessageBox(question.icon, question.title, question.text, {}, window)
 {
     setStandardButtons(shown(question.buttons));
-    setDefaultButton(question.buttons == Buttons::OkCancel ? Ok : Yes);
+    if (question.buttons == Buttons::OkCancel)
+        setDefaultButton(Ok);
+    else
+        setDefaultButton(question.enterIsNo ? No : Yes);
 }
 
 bool MessageBox::fits(const QString &text) const

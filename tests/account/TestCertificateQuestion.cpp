@@ -72,6 +72,7 @@ void TestCertificateQuestion::certificateIsShownWithAllThatTellsItApart()
     QCOMPARE(box.topic, Topic::TrustCertificate);
     QCOMPARE(box.icon, Icon::Exclamation);
     QCOMPARE(box.buttons, Buttons::YesNo);
+    QVERIFY(box.enterIsNo);
     QCOMPARE(box.title, u"Certificate"_s);
     QCOMPARE(box.text,
              u"The server smtp.example.org shows a certificate that cannot be verified: it is "

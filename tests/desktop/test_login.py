@@ -265,8 +265,14 @@ class TheQuestionInItalian(WithACertificate):
         self.see_error(sorvanta)
         box = sorvanta.box("CertificateQuestion", "Certificate")
         self.assertIn(HOST, sorvanta.says(box))
-        self.assertEqual(self.account("TrustedCertificates"), "")
+        # Who closes the notice in haste has trusted nobody.
         sorvanta.answer(box, "Return")
+        self.assertEqual(self.account("TrustedCertificates"), "")
+
+        sorvanta.click("Start")
+        self.see_error(sorvanta)
+        box = sorvanta.box("CertificateQuestion", "Certificate")
+        sorvanta.answer(box, "s")
         notice = sorvanta.box("CertificateQuestion", "Certificate")
         sorvanta.answer(notice, "Return")
         self.assertNotEqual(self.account("TrustedCertificates"), "")

@@ -23,6 +23,7 @@
 #include <QSettings>
 #include <QTranslator>
 
+#include <optional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -617,6 +618,18 @@ void TestWindowPrompts::keysAnswerQuestions()
     if (answer == -1)
         QVERIFY(rig.question());
     QTRY_COMPARE(answered, answer);
+}
+
+void TestWindowPrompts::enterDeclinesWhatNobodyShouldAgreeToUnread()
+{
+    Rig rig;
+    Question question = questionWith(Buttons::YesNo);
+    question.enterIsNo = true;
+    std::optional<Answer> answered;
+    rig.prompts.ask(question, always, [&answered](Answer given) { answered = given; });
+    QTRY_VERIFY(rig.question());
+    press(rig.question(), Qt::Key_Return);
+    QTRY_COMPARE(answered, Answer::No);
 }
 
 void TestWindowPrompts::closingAnswersCancelOrNothing_data()

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void theTitleIsTheProgramsNameWhenThereIsNone();
     void keysAnswerQuestions_data();
     void keysAnswerQuestions();
+    void enterDeclinesWhatNobodyShouldAgreeToUnread();
     void closingAnswersCancelOrNothing_data();
     void closingAnswersCancelOrNothing();
     void aNoticeCanBeDismissed_data();
