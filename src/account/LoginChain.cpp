@@ -17,6 +17,16 @@ struct LoginChain::Search
     [[nodiscard]] bool isWanted() const { return !request.stands || request.stands(); }
 };
 
+namespace {
+
+// An account without a user is anybody's.
+bool isOf(const QString &user, const Login &login)
+{
+    return user.isEmpty() || user == login.user;
+}
+
+} // namespace
+
 LoginChain::LoginChain(LoginParts parts) : m_parts(std::move(parts))
 {
     // What the keyring has now is better than what was right before.
@@ -54,7 +64,7 @@ void LoginChain::find(const LoginRequest &request, std::function<void(LoginAnswe
     if (request.refusals > 0) {
         askPerson(search);
     } else if (known != m_accepted.cend() && account.tokenCommand.isEmpty() &&
-               (account.user.isEmpty() || account.user == known->user)) {
+               isOf(account.user, *known)) {
         answer(search, *known);
     } else if (!account.tokenCommand.isEmpty()) {
         runCommand(search, account.tokenCommand, Login::Kind::Token);
@@ -168,10 +178,23 @@ void LoginChain::accepted(const ServerAddress &server, const Login &login)
 {
     const QString host = server.host.toLower();
     // A token is soon out of date, and its command knows when.
-    if (login.kind == Login::Kind::Password)
+    if (login.kind == Login::Kind::Password) {
         m_accepted.insert(host, login);
+        answerOthers(host, login);
+    }
     m_lastUser.remove(host);
     keepEntered(host, login);
+}
+
+// Nobody is to enter twice what two sessions ask for at the same time.
+void LoginChain::answerOthers(const QString &host, const Login &login)
+{
+    for (const SearchPtr &search : std::vector(m_searches)) {
+        if (search->host == host && search->request.refusals == 0 && !search->command &&
+            isOf(search->user, login))
+            answer(search, login);
+    }
+    dropStale();
 }
 
 void LoginChain::keepEntered(const QString &host, const Login &login)

@@ -57,6 +57,7 @@ private:
     void askPerson(const SearchPtr &search);
     void showLoginBox(const SearchPtr &search, bool canRemember);
     void answer(const SearchPtr &search, const LoginAnswer &answer);
+    void answerOthers(const QString &host, const Login &login);
     void drop(const SearchPtr &search);
     void keepEntered(const QString &host, const Login &login);
 

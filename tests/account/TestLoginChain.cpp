@@ -342,6 +342,39 @@ void TestLoginChain::twoRequestsAreIndependent()
     QCOMPARE(rig.answers, QStringList({u"the login was cancelled"_s, u"password me typed"_s}));
 }
 
+void TestLoginChain::whatTwoSessionsAskForIsEnteredOnce()
+{
+    ChainRig rig;
+    rig.setAccount(u"me"_s);
+    rig.find();
+    rig.find();
+    FakeServer::settle();
+    QCOMPARE(rig.prompt.openBoxes(), 2);
+    rig.prompt.answer(LoginEntry{u"me"_s, u"typed"_s});
+    FakeServer::settle();
+    QCOMPARE(rig.answers, QStringList(u"password me typed"_s));
+    rig.accept(u"me"_s, u"typed"_s);
+    QCOMPARE(rig.prompt.openBoxes(), 0);
+    QCOMPARE(rig.answers, QStringList({u"password me typed"_s, u"password me typed"_s}));
+}
+
+void TestLoginChain::anotherUserOrServerOrOneWhoWasRefusedIsStillAskedFor()
+{
+    ChainRig rig;
+    rig.setAccount(u"me"_s);
+    rig.find();
+    rig.find(1, u"wrong"_s);
+    rig.server.host = u"other.example.org"_s;
+    rig.find();
+    FakeServer::settle();
+    rig.server.host = u"smtp.example.org"_s;
+    rig.accept(u"somebody else"_s, u"theirs"_s);
+    QCOMPARE(rig.prompt.openBoxes(), 3);
+    rig.accept(u"me"_s, u"mine"_s);
+    QCOMPARE(rig.prompt.openBoxes(), 2);
+    QCOMPARE(rig.answers, QStringList(u"password me mine"_s));
+}
+
 void TestLoginChain::chainThatIsGoneAnswersNothing()
 {
     ChainRig rig;

@@ -44,5 +44,7 @@ private Q_SLOTS:
     void requestThatNoLongerStandsGetsNoAnswer();
     void boxOfARequestThatIsDroppedCloses();
     void twoRequestsAreIndependent();
+    void whatTwoSessionsAskForIsEnteredOnce();
+    void anotherUserOrServerOrOneWhoWasRefusedIsStillAskedFor();
     void chainThatIsGoneAnswersNothing();
 };

@@ -162,6 +162,18 @@ class TheWindowBehindTheBox(WithALogin):
         self.assertIn(cancelled, self.see_error(sorvanta))
         self.assertEqual({state for _, _, state in sorvanta.states()}, {"Waiting"})
 
+    def test_a_test_and_a_run_ask_for_the_login_once(self):
+        sorvanta = self.open()
+        sorvanta.running.click(sorvanta.control("push button", "Start"), RIGHT)
+        self.desktop.press("t")
+        box = sorvanta.box("frmAccesso", "Server login")
+        sorvanta.click("Start")
+        self.enter(sorvanta, self.login_box(sorvanta), PASSWORD)
+        sorvanta.running.wait_until_closed(box)
+        sender, people = "sender@sorvanta.example", [row.address for row in self.people]
+        everybody = sorted([sender, *people])
+        until("all messages", lambda: self.server.recipients() == everybody)
+
     def test_the_program_ends_while_the_box_is_open(self):
         sorvanta = self.open()
         sorvanta.click("Start")
