@@ -264,7 +264,11 @@ class Program:
 
     def wait_for_end(self):
         """Its exit status and what it said on its error output."""
-        _, said = self.process.communicate(timeout=PATIENCE)
+        try:
+            _, said = self.process.communicate(timeout=PATIENCE)
+        except subprocess.TimeoutExpired as late:
+            status = self.process.poll()
+            raise AssertionError(f"no end ({status}); it shows {self._titles()}") from late
         return self.process.returncode, said
 
 
