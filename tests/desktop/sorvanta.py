@@ -121,7 +121,8 @@ class Sorvanta:
 
     def close(self):
         """Closes the main window as the window manager does."""
-        self.running.window(self.main.name)
+        # The window manager closes what has the keyboard in its own eyes.
+        self.desktop.frame(self.running.window(self.main.name))
         self.desktop.press("alt+F4")
 
     def write(self, box, text):
