@@ -604,7 +604,7 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <name>ServerReport</name>
     <message>
         <source>You trust this certificate.</source>
-        <translation>Hai scelto di fidarti di questo certificato.</translation>
+        <translation>Lei si fida di questo certificato.</translation>
     </message>
     <message>
         <source>Nothing secret is said on this line, so it is used all the same.</source>

@@ -79,13 +79,13 @@ void Session::readReplies()
             break;
         m_reader.feed(QByteArrayView(buffer, count));
         while (isListening()) {
-            const auto reply = m_reader.next();
+            auto reply = m_reader.next();
             if (!reply && m_phase == Phase::Login)
                 dropConnection();
             else if (!reply)
                 fail(SmtpErrorNumber::Unreadable, reply.error());
             else if (*reply)
-                takeReply(*std::move(*reply));
+                takeReply(std::move(**reply));
             else
                 break;
         }
