@@ -9,6 +9,7 @@
 #include "smtp/TestMishaps.h"
 #include "smtp/TestProbe.h"
 #include "smtp/TestReplyReader.h"
+#include "smtp/TestSecrecy.h"
 #include "smtp/TestServerReportText.h"
 #include "smtp/TestStructure.h"
 #include "smtp/TestTransaction.h"
@@ -34,5 +35,6 @@ int main(int argc, char **argv)
     const QCoreApplication app(argc, argv);
     return runAll<TestReplyReader, TestMailAddress, TestTransaction, TestHeaders, TestMime,
                   TestStructure, TestContract, TestClient, TestDialogue, TestMishaps,
-                  TestEncryption, TestLogin, TestProbe, TestServerReportText>(argc, argv);
+                  TestEncryption, TestLogin, TestSecrecy, TestProbe, TestServerReportText>(argc,
+                                                                                           argv);
 }
