@@ -262,6 +262,14 @@ class Program:
         """Waits until a field shows a text."""
         until(lambda: f"'{text}' in {field}, which says '{field.text}'", lambda: field.text == text)
 
+    def ends_within(self, seconds):
+        """Whether it ends in that time."""
+        try:
+            self.process.wait(seconds)
+        except subprocess.TimeoutExpired:
+            return False
+        return True
+
     def wait_for_end(self):
         """Its exit status and what it said on its error output."""
         try:

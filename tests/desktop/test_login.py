@@ -68,6 +68,10 @@ class WithAServer(AtTheDesktop):
         """Closes the program from behind a window that has the keyboard."""
         self.desktop.click(sorvanta.control("label", "Subject:"))
         sorvanta.close()
+        # The window manager loses a key now and then when the keyboard has just changed hands; a
+        # person presses it again.
+        if not sorvanta.running.ends_within(5):
+            sorvanta.close()
         sorvanta.has_ended()
 
 
