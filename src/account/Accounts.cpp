@@ -85,10 +85,3 @@ bool Accounts::trust(const QString &host, const QByteArray &fingerprint)
         known.trustedCertificates.append(fingerprint);
     return setAccount(host, known);
 }
-
-bool Accounts::distrust(const QString &host, const QByteArray &fingerprint)
-{
-    ServerAccount known = account(host);
-    known.trustedCertificates.removeAll(fingerprint);
-    return setAccount(host, known);
-}

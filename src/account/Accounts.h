@@ -20,8 +20,6 @@ public:
     bool setAccount(const QString &host, const ServerAccount &account);
     /// From now on this certificate is accepted for the host although it does not verify.
     bool trust(const QString &host, const QByteArray &fingerprint);
-    /// Takes that back.
-    bool distrust(const QString &host, const QByteArray &fingerprint);
 
 private:
     SettingsStore &m_store;

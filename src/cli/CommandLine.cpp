@@ -182,7 +182,7 @@ Parsed parseServer(const QStringList &arguments)
     addConnectionOptions(parser);
     if (const auto parsed = parse(parser, arguments, 1, 1); !parsed)
         return tl::unexpected(parsed.error());
-    const auto server = ServerAddress::parse(parser.positionalArguments().front().trimmed());
+    const auto server = ServerAddress::parse(parser.positionalArguments().front());
     if (!server) {
         return wrongUsage(QStringLiteral("server: '%1' is not a port number from 1 to 65535")
                               .arg(server.error()));

@@ -7,12 +7,6 @@
 
 namespace {
 
-bool isSentOrInDoubt(const Recipient &row)
-{
-    const auto state = stateOfWord(row.state);
-    return state == RowState::Sent || state == RowState::Sending;
-}
-
 QString jsonLine(const QJsonObject &object)
 {
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
@@ -63,7 +57,7 @@ void SendCommand::start()
 void SendCommand::startStopped()
 {
     const auto &rows = m_workspace.recipients.rows();
-    const auto done = std::count_if(rows.begin(), rows.end(), isSentOrInDoubt);
+    const auto done = std::count_if(rows.begin(), rows.end(), mayHaveTheMessage);
     if (done > 0 && !m_options.rest && !m_options.again) {
         m_output.message(QStringLiteral("%1 recipients of this project are marked \"Sent\" or "
                                         "\"Sending...\". Say --rest to leave them out, or --again "
@@ -87,7 +81,7 @@ bool SendCommand::leaveOutThoseSent()
     RecipientList &list = m_workspace.recipients;
     std::vector<int> done;
     for (int position = 1; position <= list.count(); ++position) {
-        if (isSentOrInDoubt(list.at(position)))
+        if (mayHaveTheMessage(list.at(position)))
             done.push_back(position);
     }
     m_workspace.recipientCommands.cmdUncheckAll_Click(done);
@@ -164,7 +158,7 @@ void SendCommand::endRun(ExitCode code)
     const auto &rows = m_workspace.recipients.rows();
     const bool failed = code == ExitCode::SessionError;
     // Who broke off in the middle must not begin at the first recipient again.
-    const bool anyHandedOver = std::any_of(rows.begin(), rows.end(), isSentOrInDoubt);
+    const bool anyHandedOver = std::any_of(rows.begin(), rows.end(), mayHaveTheMessage);
     if (failed && m_interrupted) {
         // What the interruption saved is the better record: it can go on.
         summarize(code);

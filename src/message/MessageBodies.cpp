@@ -7,26 +7,39 @@
 #include <QDir>
 #include <QFile>
 
+#include <functional>
+
 MessageBodies::MessageBodies(const Form &form, const MessageReader &reader, Smtp &SMTP,
                              const QString &programFolder)
     : m_form(form), m_reader(reader), m_SMTP(SMTP), m_programFolder(programFolder)
 {}
 
-bool MessageBodies::LoadTextBody()
+template <typename Read>
+bool MessageBodies::loadText(const Read &read)
 {
     const QString path = m_form.tag(Control::txtEmail);
-    return path.isEmpty() || m_reader.LoadMessageFile(m_textBody, path, MessageKind::Text);
+    return path.isEmpty() || read(m_textBody, path, MessageKind::Text);
+}
+
+template <typename Read>
+bool MessageBodies::loadHtml(const Read &read)
+{
+    if (m_form.text(Control::txtHTML).isEmpty())
+        return true;
+    if (!read(m_htmlBody, m_form.tag(Control::txtHTML), MessageKind::Html))
+        return false;
+    StageLinkedImages();
+    return true;
+}
+
+bool MessageBodies::LoadTextBody()
+{
+    return loadText(std::bind_front(&MessageReader::LoadMessageFile, &m_reader));
 }
 
 bool MessageBodies::LoadHtmlBody()
 {
-    if (m_form.text(Control::txtHTML).isEmpty())
-        return true;
-    const QString path = m_form.tag(Control::txtHTML);
-    if (!m_reader.LoadMessageFile(m_htmlBody, path, MessageKind::Html))
-        return false;
-    StageLinkedImages();
-    return true;
+    return loadHtml(std::bind_front(&MessageReader::LoadMessageFile, &m_reader));
 }
 
 void MessageBodies::empty()
@@ -38,20 +51,14 @@ void MessageBodies::empty()
 tl::expected<void, FileError> MessageBodies::loadSilently()
 {
     empty();
-    if (const QString path = m_form.tag(Control::txtEmail); !path.isEmpty()) {
-        auto text = m_reader.read(path, MessageKind::Text);
-        if (!text)
-            return tl::unexpected(text.error());
-        m_textBody = *std::move(text);
-    }
-    if (!m_form.text(Control::txtHTML).isEmpty()) {
-        auto html = m_reader.read(m_form.tag(Control::txtHTML), MessageKind::Html);
-        if (!html)
-            return tl::unexpected(html.error());
-        m_htmlBody = *std::move(html);
-        StageLinkedImages();
-    }
-    return {};
+    tl::expected<void, FileError> outcome;
+    const auto read = [&](QString &content, const QString &path, MessageKind kind) {
+        outcome = m_reader.read(path, kind).map([&](const QString &text) { content = text; });
+        return outcome.has_value();
+    };
+    if (loadText(read))
+        loadHtml(read);
+    return outcome;
 }
 
 bool MessageBodies::CheckLinkedImages(const QString &htmlPath) const

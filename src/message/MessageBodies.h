@@ -34,6 +34,11 @@ public:
     void emptyWorkingFolder() const;
 
 private:
+    // Which file is loaded, and what comes of it; `read` takes content, path and kind.
+    template <typename Read>
+    bool loadText(const Read &read);
+    template <typename Read>
+    bool loadHtml(const Read &read);
     void StageLinkedImages();
     QString stage(const QString &source, const QString &name);
     [[nodiscard]] QString workingFolder() const;

@@ -107,15 +107,10 @@ QString addressKey(const QString &address)
     return address.trimmed().toLower();
 }
 
-QString domainOf(const QString &address)
-{
-    const QString key = addressKey(address);
-    return key.mid(key.lastIndexOf(u'@') + 1);
-}
-
 QString foreignProvider(const QString &address, const QString &serverHost)
 {
-    const QString domain = domainOf(address);
+    const QString key = addressKey(address);
+    const QString domain = key.mid(key.lastIndexOf(u'@') + 1);
     const QString host = addressKey(serverHost);
     for (const Provider &provider : Providers) {
         if (!words(provider.domains).contains(domain))

@@ -11,9 +11,6 @@
 /// The name before "@" may have one by the letter of RFC 5321, section 2.4; nobody makes use of it.
 [[nodiscard]] QString addressKey(const QString &address);
 
-/// The part behind "@", in lower case.
-[[nodiscard]] QString domainOf(const QString &address);
-
 /// The provider of free mail boxes that an address belongs to while the server does not: receivers
 /// know which servers that provider's mail comes from. Empty when all is in order.
 [[nodiscard]] QString foreignProvider(const QString &address, const QString &serverHost);

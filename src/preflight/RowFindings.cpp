@@ -18,12 +18,6 @@ Finding adviceAbout(const Recipient &row, const QString &text)
     return {Finding::Kind::Advice, text, Control::lstDestinatari, row.id};
 }
 
-bool wasMailed(const Recipient &row)
-{
-    const auto state = stateOfWord(row.state);
-    return state == RowState::Sent || state == RowState::Sending;
-}
-
 } // namespace
 
 QList<Finding> findingsInRows(const Form &form, const RecipientList &recipients, bool usesNames)
@@ -39,7 +33,7 @@ QList<Finding> findingsInRows(const Form &form, const RecipientList &recipients,
         if (!row.checked)
             continue;
         ++checked;
-        mailed += wasMailed(row) ? 1 : 0;
+        mailed += mayHaveTheMessage(row) ? 1 : 0;
         const QString key = addressKey(row.address);
         const auto known = firstOf.constFind(key);
         if (known == firstOf.constEnd()) {

@@ -39,7 +39,7 @@ tl::expected<ServerAddress, QString> TrialMessage::server() const
     const auto server = ServerAddress::parse(m_form.text(Control::txtServer));
     if (!server)
         return tl::unexpected(tr("'%1' is not a port number from 1 to 65535").arg(server.error()));
-    if (server->host.trimmed().isEmpty())
+    if (server->host.isEmpty())
         return tl::unexpected(tr("no server is named"));
     return *server;
 }

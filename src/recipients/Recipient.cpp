@@ -42,3 +42,9 @@ std::optional<RowState> stateOfWord(const QString &word)
     }
     return std::nullopt;
 }
+
+bool mayHaveTheMessage(const Recipient &row)
+{
+    const auto state = stateOfWord(row.state);
+    return state == RowState::Sent || state == RowState::Sending;
+}

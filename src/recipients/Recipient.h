@@ -42,3 +42,7 @@ struct Recipient
     qint16 imageIndex = RowImage::Checked;
     ServerReply reply; ///< what the server last said about this row
 };
+
+/// Whether the row got the message, or may have: it is "Sent", or "Sending..." since a session
+/// broke off.
+[[nodiscard]] bool mayHaveTheMessage(const Recipient &row);

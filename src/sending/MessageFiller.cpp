@@ -36,11 +36,12 @@ void MessageFiller::fill(Smtp &SMTP, const MessageBodies &bodies, const Addresse
     }
     SMTP.ExtraHeaders =
         QLatin1String("Message-ID: <") + m_moment.nextIdentifier() + QLatin1String(">\r\n");
+    const auto PersonalizeText = [&to](const QString &text) { return withName(text, to.name); };
     SMTP.TextBody = Texts::tr("Unable to show the message");
     if (!m_form.tag(Control::txtEmail).isEmpty())
-        SMTP.TextBody = withName(bodies.textBody(), to.name);
+        SMTP.TextBody = PersonalizeText(bodies.textBody());
     if (!m_form.tag(Control::txtHTML).isEmpty())
-        SMTP.HtmlBody = withName(bodies.htmlBody(), to.name);
+        SMTP.HtmlBody = PersonalizeText(bodies.htmlBody());
     for (const QString &path : m_attachments.paths())
         SMTP.AddAttachment(path);
 }

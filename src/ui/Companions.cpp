@@ -42,7 +42,7 @@ Companions::Companions(const WindowParts &parts, QWidget &window)
 // A page for each account; it stays while the server's box says something else.
 void Companions::cmdAccount_Click()
 {
-    const auto server = ServerAddress::parse(m_form.text(Control::txtServer).trimmed());
+    const auto server = ServerAddress::parse(m_form.text(Control::txtServer));
     if (!server || server->host.isEmpty()) {
         const QString text =
             server ? tr("Fill in the SMTP server first.")

@@ -147,9 +147,12 @@ void TestAccounts::trustIsForOneCertificateAndCanBeTakenBack()
     QVERIFY(rig.accounts.trust(u"h"_s, two));
     QVERIFY(rig.accounts.trust(u"h"_s, one));
     QCOMPARE(rig.accounts.account(u"h"_s).trustedCertificates, QList({one, two}));
-    QVERIFY(rig.accounts.distrust(u"h"_s, one));
+    ServerAccount account = rig.accounts.account(u"h"_s);
+    account.trustedCertificates.removeOne(one);
+    QVERIFY(rig.accounts.setAccount(u"h"_s, account));
     QCOMPARE(rig.accounts.account(u"h"_s).trustedCertificates, QList({two}));
-    QVERIFY(rig.accounts.distrust(u"h"_s, two));
+    account.trustedCertificates.clear();
+    QVERIFY(rig.accounts.setAccount(u"h"_s, account));
     QCOMPARE(rig.accounts.account(u"h"_s), ServerAccount());
 }
 

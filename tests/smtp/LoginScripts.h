@@ -1,6 +1,7 @@
 #pragma once
 
 #include "smtp/Dialogue.h"
+#include "smtp/Scripts.h"
 
 /// Pieces of dialogues with a server that wants to know who one is: anna, whose password is
 /// "secret".
@@ -10,12 +11,7 @@ using namespace Qt::StringLiterals;
 
 // base64 of NUL anna NUL secret
 inline const QString Plain = u"C: AUTH PLAIN AGFubmEAc2VjcmV0\n"_s;
-inline const QString Greeted = uR"(
-E: Connect
-C: <connects>
-S: 220 ready
-C: EHLO [127.0.0.1]
-)"_s;
+inline const QString Greeted = u"E: Connect\n"_s + opening(Mode::Plain, Point::Ehlo);
 inline const QString Asked = u"L< asked\nE< login awaited\n"_s;
 inline const QString Answered = u"L: anna secret\n"_s;
 inline const QString Accepted = u"S: 235 welcome\nL< accepted anna\n"_s;

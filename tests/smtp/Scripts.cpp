@@ -70,6 +70,17 @@ QString opening(Mode mode, Point upTo)
     return script + u"S: 250 HELP\n"_s;
 }
 
+QString startingTls()
+{
+    return opening(Mode::Plain, Point::Ehlo) +
+           u"S: 250-server.example\nS: 250 STARTTLS\nC: STARTTLS\n"_s;
+}
+
+QString encryptedOpening()
+{
+    return startingTls() + u"S: <encrypts>\nC: <encrypts>\nC: EHLO [127.0.0.1]\n"_s;
+}
+
 QString message(Mode mode, Point upTo)
 {
     QString script;

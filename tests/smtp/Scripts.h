@@ -16,6 +16,10 @@ enum class Point { Greeting, Ehlo, Rset, Mail, Rcpt, Data, Final };
 /// From the client's connecting to the server's reply to EHLO, which is left out when `upTo` says
 /// so.
 [[nodiscard]] QString opening(Mode mode, Point upTo = Point::Final);
+/// From the client's connecting to its STARTTLS, which the server offers.
+[[nodiscard]] QString startingTls();
+/// The same, to the client's EHLO on the encrypted line.
+[[nodiscard]] QString encryptedOpening();
 /// The first message of a session to anna@example.net, up to the server's reply at that point,
 /// which is left out. Point::Final leaves out only the last reply.
 [[nodiscard]] QString message(Mode mode, Point upTo = Point::Final);

@@ -1,6 +1,7 @@
 #include "smtp/TestEncryption.h"
 
 #include "smtp/Dialogue.h"
+#include "smtp/Scripts.h"
 
 #include <QSslCertificate>
 #include <QSslConfiguration>
@@ -24,26 +25,11 @@ QByteArray fingerprintOfFile(const QString &certificate)
         .digest(QCryptographicHash::Sha256);
 }
 
-const QString Greeted = uR"(
-E: Connect
-C: <connects>
-S: 220 ready
-C: EHLO [127.0.0.1]
-)"_s;
-const QString OffersTls = Greeted + u"S: 250-server.example\nS: 250 STARTTLS\nC: STARTTLS\n"_s;
-const QString Encrypted = OffersTls + u"S: <encrypts>\nC: <encrypts>\nC: EHLO [127.0.0.1]\n"_s;
-const QString SendAndQuit = uR"(
-E< ready
-E: Send
-C: MAIL FROM:<sender@example.org>
-S: 250 ok
-C: RCPT TO:<anna@example.net>
-S: 250 ok
-C: DATA
-S: 354 go on
-C: <stuffed>
-C: .
-S: 250 queued
+const QString Connect = u"E: Connect\n"_s;
+const QString Greeted = Connect + opening(Mode::Plain, Point::Ehlo);
+const QString OffersTls = Connect + startingTls();
+const QString Encrypted = Connect + encryptedOpening();
+const QString SendAndQuit = u"E< ready\nE: Send\n"_s + message(Mode::Plain) + uR"(S: 250 queued
 E< sent: 250 queued
 E< ready
 E: Disconnect
@@ -247,28 +233,16 @@ E< ready
 E: Send
 C: MAIL FROM:<sender@example.org> SIZE=<size>
 S: <closes>
-)"_s + Encrypted.section(u'\n', 2) + uR"(
+)"_s + encryptedOpening() + uR"(
 S: 250 server.example
 C: MAIL FROM:<sender@example.org>
 S: 550 no
 E< refused: 550 no
 E< ready
 )"_s;
-    QTest::newRow("after the content: in doubt") << uR"(
-S: 250 server.example
-E< ready
-E: Send
-C: MAIL FROM:<sender@example.org>
-S: 250 ok
-C: RCPT TO:<anna@example.net>
-S: 250 ok
-C: DATA
-S: 354 go on
-C: <stuffed>
-C: .
-S: <closes>
-E< error: in doubt, perhaps accepted: -
-)"_s;
+    QTest::newRow("after the content: in doubt")
+        << u"S: 250 server.example\nE< ready\nE: Send\n"_s + message(Mode::Plain) +
+               u"S: <closes>\nE< error: in doubt, perhaps accepted: -\n"_s;
 }
 
 void TestEncryption::messageCutOnAnEncryptedLine()

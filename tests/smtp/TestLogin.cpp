@@ -113,29 +113,25 @@ E< error: login failed
         << offering(u"PLAIN"_s) + Asked + Answered + Plain +
                u"E< login no longer awaited\n"
                u"S: 454 4.7.0 later\nC: <closes>\nE< error: login failed\n"_s;
+    const QString calledAgain = Answered + u"E< login no longer awaited\n"_s +
+                                opening(Mode::Plain, Point::Ehlo) +
+                                u"S: 250-server.example\nS: 250 AUTH PLAIN\n"_s + Plain + Accepted +
+                                u"E< ready\n"_s + Disconnected;
     QTest::newRow("the server does not wait for a slow person")
-        << Port::Submission << QString() << offering(u"PLAIN"_s) + Asked + uR"(
-S: 421 too slow
-C: <closes>
-L: anna secret
-E< login no longer awaited
-C: <connects>
-S: 220 ready
-C: EHLO [127.0.0.1]
-S: 250-server.example
-S: 250 AUTH PLAIN
-)"_s + Plain + Accepted + u"E< ready\n"_s + Disconnected;
+        << Port::Submission << QString()
+        << offering(u"PLAIN"_s) + Asked + u"S: 421 too slow\nC: <closes>\n"_s + calledAgain;
     QTest::newRow("the server closes without a word meanwhile")
-        << Port::Submission << QString() << offering(u"PLAIN"_s) + Asked + uR"(
-S: <closes>
-L: anna secret
-E< login no longer awaited
-C: <connects>
-S: 220 ready
-C: EHLO [127.0.0.1]
-S: 250-server.example
-S: 250 AUTH PLAIN
-)"_s + Plain + Accepted + u"E< ready\n"_s + Disconnected;
+        << Port::Submission << QString()
+        << offering(u"PLAIN"_s) + Asked + u"S: <closes>\n"_s + calledAgain;
+    QTest::newRow("what is said meanwhile is not listened to")
+        << Port::Submission << QString()
+        << offering(u"PLAIN"_s) + Asked + u"S: hurry up\nC: <closes>\n"_s + calledAgain;
+    QTest::newRow("only 2xx accepts a login")
+        << Port::Submission << QString()
+        << offering(u"PLAIN"_s) + Asked + Answered + Plain +
+               u"E< login no longer awaited\nS: 354 go on\n"
+               u"L< asked again: the server refuses the login: 354 go on\n"
+               u"E< login awaited\n"_s;
 
     // The server asks for it at MAIL.
     const QString atMail = offering(u"PLAIN"_s) + uR"(
@@ -143,21 +139,8 @@ E< ready
 E: Send
 C: MAIL FROM:<sender@example.org>
 )"_s;
-    const QString again = uR"(
-C: RSET
-S: 250 ok
-C: MAIL FROM:<sender@example.org>
-S: 250 ok
-C: RCPT TO:<anna@example.net>
-S: 250 ok
-C: DATA
-S: 354 go on
-C: <stuffed>
-C: .
-S: 250 queued
-E< sent: 250 queued
-E< ready
-)"_s;
+    const QString again = u"C: RSET\nS: 250 ok\n"_s + message(Mode::Plain) +
+                          u"S: 250 queued\nE< sent: 250 queued\nE< ready\n"_s;
     for (const QString &reply : {u"530 5.7.0 log in first"_s, u"550 5.7.1 log in first"_s}) {
         QTest::addRow("asked for at MAIL: %s", qPrintable(reply))
             << Port::Other << QString()

@@ -155,6 +155,8 @@ QByteArray fileHeaders(const QByteArray &type, const QByteArray &disposition,
         "Content-Transfer-Encoding: base64\n");
 }
 
+// Not the library's encoder: it writes lines of up to 78 characters where blanks fall on a line's
+// end.
 QByteArray quotedPrintable(const QByteArray &text)
 {
     // RFC 2045, section 6.7: the "=" of a line that goes on counts.

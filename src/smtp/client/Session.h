@@ -133,6 +133,7 @@ private:
     void takeAuthReply(const WireReply &reply);
     void answerChallenge();
     void loginRefused(const ServerReply &reply);
+    void failLogin(const QString &reason);
     void becomeReady(const QString &reason);
 
     // A message
@@ -157,8 +158,7 @@ private:
     std::optional<Login> m_login; ///< found, and not refused
     std::optional<AuthExchange> m_exchange;
     int m_loginRefusals = 0;
-    quint32 m_loginSearch =
-        0; ///< the number of the search that goes on; a later one makes it stale
+    quint32 m_loginSearch = 0; ///< changes when a search begins or ends, and makes it stale
     bool m_needsReset = false; ///< the server may hold parts of an earlier message
     qint64 m_unwritten = 0;    ///< bytes that the socket has not yet passed on
     std::optional<Transaction> m_transaction;

@@ -216,8 +216,7 @@ void Session::takeLogin(const LoginAnswer &answer)
 {
     Q_EMIT loginAwaited(false);
     if (!answer) {
-        m_report.login = LoginState::Failed;
-        fail(SmtpErrorNumber::LoginFailed, answer.error());
+        failLogin(answer.error());
         return;
     }
     m_login = *answer;
@@ -233,8 +232,7 @@ void Session::authenticate()
     const auto exchange = AuthExchange::begin(*m_login, m_extensions);
     m_report.loginUser = m_login->user;
     if (!exchange) {
-        m_report.login = LoginState::Failed;
-        fail(SmtpErrorNumber::LoginFailed, exchange.error());
+        failLogin(exchange.error());
         return;
     }
     m_exchange = *exchange;
@@ -249,7 +247,7 @@ void Session::takeAuthReply(const WireReply &reply)
     const ServerReply said = reply.toServerReply(SmtpVerb::Auth);
     if (reply.code == 334) {
         answerChallenge();
-    } else if (said.isPositive()) {
+    } else if (reply.code / 100 == 2) {
         m_exchange.reset();
         m_loginRefusals = 0;
         m_report.login = LoginState::Accepted;
@@ -267,10 +265,8 @@ void Session::answerChallenge()
         m_trace.client(u"***"_s);
         write(*answer);
     } else {
-        m_report.login = LoginState::Failed;
-        fail(SmtpErrorNumber::LoginFailed,
-             u"the server asks for more than a login by %1 has to say"_s.arg(
-                 m_report.loginMechanism));
+        failLogin(u"the server asks for more than a login by %1 has to say"_s.arg(
+            m_report.loginMechanism));
     }
 }
 
@@ -278,30 +274,34 @@ void Session::loginRefused(const ServerReply &reply)
 {
     const LoginRefusal refusal = LoginRefusal::of(reply);
     m_exchange.reset();
-    m_report.login = LoginState::Failed;
     ++m_loginRefusals;
     // A server that cannot check it just now says nothing about the login itself.
     if (reply.code >= 500)
         m_from.logins.refused(m_server, *m_login);
     m_login.reset();
     if (refusal.isFinal || m_loginRefusals >= MostLoginRefusals)
-        fail(SmtpErrorNumber::LoginFailed, refusal.text);
+        failLogin(refusal.text);
     else
         lookForLogin(refusal.text);
+}
+
+void Session::failLogin(const QString &reason)
+{
+    m_report.login = LoginState::Failed;
+    fail(SmtpErrorNumber::LoginFailed, reason);
 }
 
 void Session::becomeReady(const QString &reason)
 {
     if (m_report.reached != ServerStep::Ready)
         reach(ServerStep::Ready);
-    if (m_heldLetter && !m_reader.isEmpty()) {
-        fail(SmtpErrorNumber::Unreadable, u"the server's replies are out of step"_s);
-        return;
-    }
-    if (m_heldLetter) {
+    if (!m_heldLetter) {
+        enter(Phase::Ready, reason);
+        m_hasNews = true;
+    } else if (m_reader.isEmpty()) {
         begin(*std::exchange(m_heldLetter, std::nullopt));
-        return;
+    } else {
+        // It would be taken for an answer to what is not yet said.
+        fail(SmtpErrorNumber::Unreadable, u"the server's replies are out of step"_s);
     }
-    enter(Phase::Ready, reason);
-    m_hasNews = true;
 }
