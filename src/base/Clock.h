@@ -18,6 +18,12 @@ public:
     [[nodiscard]] virtual QDateTime now() const = 0;
     /// Microseconds since 1970-01-01 UTC. May step back when the machine's clock is set.
     [[nodiscard]] virtual qint64 microseconds() const = 0;
+    /// The same in milliseconds.
+    [[nodiscard]] qint64 milliseconds() const
+    {
+        constexpr qint64 MicrosecondsPerMillisecond = 1000;
+        return microseconds() / MicrosecondsPerMillisecond;
+    }
     /// Milliseconds of a counter that never stops and wraps after 2^32.
     [[nodiscard]] virtual quint32 tickCount() const = 0;
 };

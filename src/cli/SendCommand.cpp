@@ -113,16 +113,16 @@ void SendCommand::showRow(int position)
                                   {QStringLiteral("name"), row.name},
                                   {QStringLiteral("address"), row.address},
                                   {QStringLiteral("state"), row.state},
-                                  {QStringLiteral("code"), row.reply.code},
-                                  {QStringLiteral("enhanced"), row.reply.enhanced},
-                                  {QStringLiteral("reply"), row.reply.text}}));
+                                  {QStringLiteral("code"), row.attempt.reply.code},
+                                  {QStringLiteral("enhanced"), row.attempt.reply.enhanced},
+                                  {QStringLiteral("reply"), row.attempt.reply.text}}));
     } else {
         constexpr int NumberWidth = 6;
         constexpr int StateWidth = 8;
         m_output.result(row.number.rightJustified(NumberWidth) + QLatin1String("  ") +
                         row.state.leftJustified(StateWidth) + QLatin1String("  ") + row.name +
                         QLatin1String(" <") + row.address + QLatin1String(">  ") +
-                        row.reply.toText());
+                        row.attempt.reply.toText());
     }
     if (m_output.progressIsDue())
         showProgress();

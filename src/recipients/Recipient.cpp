@@ -34,6 +34,23 @@ QString stateWord(RowState state, Language language)
     return made[static_cast<std::size_t>(state)][language == Language::Italian ? 1 : 0];
 }
 
+RowState stateAfter(Outcome outcome)
+{
+    switch (outcome) {
+    case Outcome::None:
+    case Outcome::NotTaken:
+        break;
+    case Outcome::InFlight:
+    case Outcome::InDoubt:
+        return RowState::Sending;
+    case Outcome::Sent:
+        return RowState::Sent;
+    case Outcome::Refused:
+        return RowState::Error;
+    }
+    return RowState::Waiting;
+}
+
 std::optional<RowState> stateOfWord(const QString &word)
 {
     for (const Word &known : Words) {
@@ -47,4 +64,16 @@ bool mayHaveTheMessage(const Recipient &row)
 {
     const auto state = stateOfWord(row.state);
     return state == RowState::Sent || state == RowState::Sending;
+}
+
+bool isInDoubt(const Recipient &row)
+{
+    return stateOfWord(row.state) == RowState::Sending && row.attempt.outcome != Outcome::InFlight;
+}
+
+bool isRefusedForNow(const Recipient &row)
+{
+    constexpr int HundredsForNow = 4;
+    return stateOfWord(row.state) == RowState::Error &&
+           row.attempt.reply.code / 100 == HundredsForNow;
 }

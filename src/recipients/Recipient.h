@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Language.h"
-#include "base/ServerReply.h"
+#include "recipients/Attempt.h"
 
 #include <QString>
 
@@ -18,6 +18,9 @@ enum class RowState {
 };
 
 [[nodiscard]] QString stateWord(RowState state, Language language);
+
+/// The state of a row whose last message had that outcome.
+[[nodiscard]] RowState stateAfter(Outcome outcome);
 
 /// The state that a word of either language says; nothing for any other text.
 [[nodiscard]] std::optional<RowState> stateOfWord(const QString &word);
@@ -40,9 +43,16 @@ struct Recipient
     QString state;
     bool checked = true;
     qint16 imageIndex = RowImage::Checked;
-    ServerReply reply; ///< what the server last said about this row
+    Attempt attempt; ///< the last message handed over for it
 };
 
 /// Whether the row got the message, or may have: it is "Sent", or "Sending..." since a session
 /// broke off.
 [[nodiscard]] bool mayHaveTheMessage(const Recipient &row);
+
+/// Whether the row is "Sending..." and nothing is on its way any more.
+[[nodiscard]] bool isInDoubt(const Recipient &row);
+
+/// Whether the server refused the row with a reply that may be another one later (RFC 5321, section
+/// 4.2.1: 4yz).
+[[nodiscard]] bool isRefusedForNow(const Recipient &row);

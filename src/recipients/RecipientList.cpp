@@ -75,9 +75,9 @@ void RecipientList::setState(int position, const QString &state)
     Q_EMIT rowChanged(position);
 }
 
-void RecipientList::setReply(int position, const ServerReply &reply)
+void RecipientList::setAttempt(int position, const Attempt &attempt)
 {
-    m_rows[index(position)].reply = reply;
+    m_rows[index(position)].attempt = attempt;
     Q_EMIT rowChanged(position);
 }
 

@@ -42,7 +42,7 @@ public:
     void renumber();
 
     void setState(int position, const QString &state);
-    void setReply(int position, const ServerReply &reply);
+    void setAttempt(int position, const Attempt &attempt);
     void setCheckedWithImage(int position, bool checked, qint16 imageIndex);
 
     [[nodiscard]] Column sortColumn() const { return m_sortColumn; }
@@ -59,7 +59,7 @@ public:
 Q_SIGNALS:
     /// Rows came, went or moved.
     void rowsChanged();
-    /// State, reply, check or picture of one row changed.
+    /// State, attempt, check or picture of one row changed.
     void rowChanged(int position);
 
 private:

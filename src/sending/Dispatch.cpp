@@ -21,8 +21,12 @@ struct Texts
 
 void SendingEngine::SMTP_StatusChanged(qint32 Code)
 {
-    if (Code != Smtp::Ready)
-        return;
+    if (Code == Smtp::Ready)
+        sendNext();
+}
+
+void SendingEngine::sendNext()
+{
     if (m_inFlight) {
         qCDebug(runTrace, "ready while a message is in flight: ignored");
         return;
@@ -39,6 +43,10 @@ void SendingEngine::SMTP_StatusChanged(qint32 Code)
     if (!findNextRecipient()) {
         m_SMTP.Disconnect();
         endRunOfItself(Texts::tr("Sending ended."));
+        return;
+    }
+    if (!m_recorder->isCaughtUp()) {
+        m_readyWaits = true;
         return;
     }
     if (m_form.isChecked(Control::chkMultiSend))
@@ -114,13 +122,22 @@ void SendingEngine::handOver(const std::vector<int> &positions, Addressing addre
     to.name = m_recipients.at(positions.front()).name;
     to.isGroup = addressing == Addressing::Group;
     for (const int position : positions) {
-        m_recipients.makeCurrent(position);
-        m_recipients.setState(position, stateText(RowState::Sending));
         const Recipient &row = m_recipients.at(position);
         message.rows.push_back({row.id, position, row.address, row.number});
         to.addresses.append(row.address);
     }
-    m_filler.fill(m_SMTP, m_bodies, to);
+    message.identifier = m_filler.fill(m_SMTP, m_bodies, to);
+    if (!m_recorder->handingOver(message)) {
+        halt();
+        return;
+    }
+    for (const int position : positions) {
+        m_recipients.makeCurrent(position);
+        const int tries = m_recipients.at(position).attempt.tries + 1;
+        m_recipients.setAttempt(
+            position, {Outcome::InFlight, {}, m_clock.milliseconds(), tries, message.identifier});
+        m_recipients.setState(position, stateText(RowState::Sending));
+    }
     m_session.messageStartTick = m_clock.tickCount();
     m_inFlight = message;
     m_SMTP.Send();

@@ -19,7 +19,7 @@ MessageFiller::MessageFiller(const Form &form, const Attachments &attachments, c
     : m_form(form), m_attachments(attachments), m_moment(clock, computerName)
 {}
 
-void MessageFiller::fill(Smtp &SMTP, const MessageBodies &bodies, const Addressees &to)
+QString MessageFiller::fill(Smtp &SMTP, const MessageBodies &bodies, const Addressees &to)
 {
     SMTP.RecipientAddress = to.addresses.join(u',');
     if (to.isGroup)
@@ -34,8 +34,8 @@ void MessageFiller::fill(Smtp &SMTP, const MessageBodies &bodies, const Addresse
         SMTP.ReceiptAddress = sender;
         SMTP.RequestReceipt = true;
     }
-    SMTP.ExtraHeaders =
-        QLatin1String("Message-ID: <") + m_moment.nextIdentifier() + QLatin1String(">\r\n");
+    const QString identifier = m_moment.nextIdentifier();
+    SMTP.ExtraHeaders = QLatin1String("Message-ID: <") + identifier + QLatin1String(">\r\n");
     const auto PersonalizeText = [&to](const QString &text) { return withName(text, to.name); };
     SMTP.TextBody = Texts::tr("Unable to show the message");
     if (!m_form.tag(Control::txtEmail).isEmpty())
@@ -44,4 +44,5 @@ void MessageFiller::fill(Smtp &SMTP, const MessageBodies &bodies, const Addresse
         SMTP.HtmlBody = PersonalizeText(bodies.htmlBody());
     for (const QString &path : m_attachments.paths())
         SMTP.AddAttachment(path);
+    return identifier;
 }

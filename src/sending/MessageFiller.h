@@ -27,8 +27,8 @@ public:
 
     /// Writes the properties that the message needs, and adds the attachments. What it does not
     /// need stays as the client's Reset left it: the HTML body, the wish for a receipt, the mark of
-    /// a group.
-    void fill(Smtp &SMTP, const MessageBodies &bodies, const Addressees &to);
+    /// a group. Returns the message's identifier.
+    QString fill(Smtp &SMTP, const MessageBodies &bodies, const Addressees &to);
 
 private:
     const Form &m_form;

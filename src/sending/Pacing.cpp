@@ -73,13 +73,28 @@ void SendingEngine::cmdPausa_Click()
 
 void SendingEngine::pause()
 {
-    setRunState(RunState::Paused, "the user paused");
+    enterPause("the user paused");
+    m_AppLog.WriteMessage(QStringLiteral("User has pressed the pause command"));
+}
+
+// Not stopped: whoever makes room on the disk can go on where the run stood.
+void SendingEngine::halt()
+{
+    enterPause("the run cannot be recorded");
+    m_SMTP.Disconnect();
+    m_sessionIsOfThisRun = false;
+    m_AppLog.WriteMessage(QStringLiteral("Sending procedure paused"));
+    Q_EMIT runHalted();
+}
+
+void SendingEngine::enterPause(const char *reason)
+{
+    setRunState(RunState::Paused, reason);
     m_form.setText(Control::lblTimer, Texts::tr("Pause..."));
     if (m_session.packetMessagesLeft > 0) {
         m_session.packetMessagesLeft = 0;
         m_session.secondsToNextPacket = 1;
     }
-    m_AppLog.WriteMessage(QStringLiteral("User has pressed the pause command"));
 }
 
 void SendingEngine::resume()
@@ -91,6 +106,8 @@ void SendingEngine::resume()
         return;
     }
     if (!m_bodiesLoaded && !loadBodies())
+        return;
+    if (!m_recorder->claim() || !m_recorder->begin())
         return;
     m_sessionIsOfThisRun = false;
     setRunState(RunState::Waiting, "the user resumed");
@@ -142,6 +159,7 @@ void SendingEngine::EnterPausedState()
         if (last.address == control)
             m_controlRow = last.id;
     }
+    m_recorder->pausedRunOpened();
     m_AppLog.WriteMessage(QStringLiteral("Sending procedure paused"));
 }
 
@@ -150,6 +168,8 @@ void SendingEngine::StopSending()
     setRunState(RunState::Idle, "the run is over");
     m_form.countRunChanged();
     m_sessionIsOfThisRun = false;
+    m_readyWaits = false;
+    m_recorder->over();
     m_bodies.emptyWorkingFolder();
     // Only the row that this run appended: a project opened meanwhile keeps all its recipients.
     if (const int position = m_recipients.positionOf(m_controlRow, m_recipients.count());

@@ -35,37 +35,60 @@ void SendingEngine::SMTP_MessageDone(bool Sent)
     const MessageInFlight message = *std::exchange(m_inFlight, std::nullopt);
     const bool stale = isStale(message);
     const QList<ServerReply> replies = m_SMTP.lastReplies();
+    std::vector<RowResult> results;
+    for (std::size_t place = 0; place < message.rows.size(); ++place) {
+        const ServerReply reply = replyOf(replies, place);
+        // A server may take a message for some recipients of a group and refuse others.
+        const bool rowSent = Sent && (reply.isEmpty() || reply.isPositive());
+        results.push_back({rowSent ? Outcome::Sent : Outcome::Refused, reply});
+    }
     if (!stale) {
         m_session.recipientsLeft -= static_cast<qint32>(message.rows.size());
         const quint32 duration = m_clock.tickCount() - m_session.messageStartTick;
         m_form.setTag(Control::lblRimanente, secondsText(duration, m_formats.decimalSign()));
     }
+    const SettledMessage settlement = mark(message, results);
     const QString subject = stale ? message.subject : m_form.text(Control::txtOggetto);
-    SettledMessage settlement;
-    int lastPosition = 0;
     for (std::size_t place = 0; place < message.rows.size(); ++place) {
         const MessageInFlight::Row &row = message.rows[place];
-        const ServerReply reply = replyOf(replies, place);
-        // A server may take a message for some recipients of a group and refuse others.
-        const bool rowSent = Sent && (reply.isEmpty() || reply.isPositive());
-        const QString state = stateText(rowSent ? RowState::Sent : RowState::Error);
-        settlement.rows.push_back({row.id, state});
-        const int position = stale ? 0 : m_recipients.positionOf(row.id, row.position);
-        if (position > 0) {
-            m_recipients.setReply(position, reply);
-            m_recipients.setState(position, state);
-            lastPosition = position;
-            Q_EMIT rowDone(position);
-        }
+        const bool rowSent = results[place].outcome == Outcome::Sent;
         m_AppLog.WriteMessage(QLatin1String("Message '") + subject + QLatin1String("' to '") +
                               row.address + QLatin1String("' (") + row.number +
                               (rowSent ? QLatin1String(") sent.") : QLatin1String(") not sent.")));
     }
-    if (lastPosition > 0) {
-        m_session.nextRecipientIndex = positionAfter(m_recipients.rows(), lastPosition);
-        m_searchFrom = lastPosition + 1;
+    if (!stale) {
+        const MessageInFlight::Row &last = message.rows.back();
+        if (const int position = m_recipients.positionOf(last.id, last.position); position > 0) {
+            m_session.nextRecipientIndex = positionAfter(m_recipients.rows(), position);
+            m_searchFrom = position + 1;
+        }
     }
     settle(settlement);
+}
+
+// Gives the message's rows what became of them, on the disk first. A stale result changes no row.
+SettledMessage SendingEngine::mark(const MessageInFlight &message,
+                                   const std::vector<RowResult> &results)
+{
+    m_recorder->settled(message, results);
+    SettledMessage settlement;
+    for (std::size_t place = 0; place < message.rows.size(); ++place) {
+        const MessageInFlight::Row &row = message.rows[place];
+        const RowResult &result = results[place];
+        const QString state = stateText(stateAfter(result.outcome));
+        settlement.rows.push_back({row.id, state});
+        const int position =
+            isStale(message) ? 0 : m_recipients.positionOf(row.id, row.position);
+        if (position == 0)
+            continue;
+        const int tries = m_recipients.at(position).attempt.tries;
+        m_recipients.setAttempt(position, {result.outcome, result.reply, m_clock.milliseconds(),
+                                           tries, message.identifier});
+        m_recipients.setState(position, state);
+        if (result.outcome == Outcome::Sent || result.outcome == Outcome::Refused)
+            Q_EMIT rowDone(position);
+    }
+    return settlement;
 }
 
 SettledMessage SendingEngine::settledInDoubt() const
@@ -78,33 +101,23 @@ SettledMessage SendingEngine::settledInDoubt() const
     return settlement;
 }
 
-// Marks the rows of the message that an error broke off.
+// Marks the rows of the message that an error broke off. Rows that the server never took go back to
+// "Waiting": they are certain not to have been mailed. Those in doubt keep "Sending...".
 SettledMessage SendingEngine::takeBrokenMessage()
 {
-    SettledMessage settlement = settledInDoubt();
     const MessageInFlight message = *std::exchange(m_inFlight, std::nullopt);
     const QList<ServerReply> replies = m_SMTP.lastReplies();
-    // Rows that the server never took go back to "Waiting": they are certain not to have been
-    // mailed. Those in doubt keep "Sending...".
-    settlement.finished = m_SMTP.mayHaveBeenAccepted();
+    const bool inDoubt = m_SMTP.mayHaveBeenAccepted();
+    std::vector<RowResult> results;
     for (std::size_t place = 0; place < message.rows.size(); ++place) {
         const ServerReply reply = replyOf(replies, place);
-        const bool refused = !reply.isEmpty() && !reply.isPositive();
-        if (refused)
-            settlement.rows[place].state = stateText(RowState::Error);
-        else if (!settlement.finished)
-            settlement.rows[place].state = stateText(RowState::Waiting);
-        const int position =
-            isStale(message)
-                ? 0
-                : m_recipients.positionOf(message.rows[place].id, message.rows[place].position);
-        if (position > 0) {
-            m_recipients.setReply(position, reply);
-            m_recipients.setState(position, settlement.rows[place].state);
-            if (refused)
-                Q_EMIT rowDone(position);
-        }
+        if (!reply.isEmpty() && !reply.isPositive())
+            results.push_back({Outcome::Refused, reply});
+        else
+            results.push_back({inDoubt ? Outcome::InDoubt : Outcome::NotTaken, reply});
     }
+    SettledMessage settlement = mark(message, results);
+    settlement.finished = inDoubt;
     return settlement;
 }
 

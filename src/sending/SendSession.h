@@ -31,6 +31,7 @@ struct MessageInFlight
 
     std::vector<Row> rows;
     QString subject;
+    QString identifier; ///< as in the Message-ID
     Situation situation;
 };
 

@@ -24,6 +24,15 @@ SendingEngine::SendingEngine(const EngineParts &parts)
     connect(&m_SMTP, &Smtp::SmtpError, this, &SendingEngine::SMTP_SmtpError);
 }
 
+void SendingEngine::setRecorder(RunRecorder &recorder)
+{
+    m_recorder = &recorder;
+    recorder.onCaughtUp = [this] {
+        if (std::exchange(m_readyWaits, false))
+            sendNext();
+    };
+}
+
 // The timers follow from the state; nothing else switches them.
 void SendingEngine::setRunState(RunState state, const char *reason)
 {

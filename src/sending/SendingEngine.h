@@ -8,6 +8,7 @@
 #include "prompts/Prompts.h"
 #include "recipients/RecipientList.h"
 #include "sending/MessageFiller.h"
+#include "sending/RunRecorder.h"
 #include "sending/SendSession.h"
 #include "sending/Turns.h"
 #include "smtp/Smtp.h"
@@ -63,6 +64,9 @@ class SendingEngine : public QObject
 public:
     explicit SendingEngine(const EngineParts &parts);
 
+    /// Who keeps the runs on the disk, and outlives them; nobody at first.
+    void setRecorder(RunRecorder &recorder);
+
     // The user's commands.
     void cmdAvvio_Click();
     /// Pauses a run that goes, resumes one that is paused.
@@ -102,6 +106,8 @@ Q_SIGNALS:
     void runEnded();
     /// The session failed, and with it the run.
     void runFailed(qint32 Number, const QString &Description);
+    /// The run paused by itself, because it cannot be recorded.
+    void runHalted();
 
 private:
     // Start
@@ -112,6 +118,7 @@ private:
 
     // Dispatch
     void SMTP_StatusChanged(qint32 Code);
+    void sendNext();
     void endPacket();
     [[nodiscard]] bool findNextRecipient();
     [[nodiscard]] std::vector<int> takeGroup();
@@ -124,12 +131,16 @@ private:
     void SMTP_SmtpError(qint32 Number, const QString &Description);
     [[nodiscard]] bool isStale(const MessageInFlight &message) const;
     [[nodiscard]] SettledMessage takeBrokenMessage();
+    [[nodiscard]] SettledMessage mark(const MessageInFlight &message,
+                                      const std::vector<RowResult> &results);
     void settle(const SettledMessage &settlement);
 
     // Pacing
     void Timer_Timer();
     void SMTP_LoginAwaited(bool waits);
     void pause();
+    void halt();
+    void enterPause(const char *reason);
     void resume();
     void endRunOfItself(const QString &text);
     void failTimer(const QString &reason);
@@ -156,6 +167,8 @@ private:
     SecondTimer &m_Timer;
     SecondTimer &m_Timer2;
     std::function<void(std::function<void(SaveOutcome)>)> m_save;
+    NoRecorder m_noRecorder;
+    RunRecorder *m_recorder = &m_noRecorder;
 
     SendSession m_session;
     std::optional<MessageInFlight> m_inFlight;
@@ -165,6 +178,7 @@ private:
     quint32 m_startedRun = 0;          ///< the number of the run that started last
     int m_searchFrom = 1;              ///< behind the last row that was finished
     bool m_sessionIsOfThisRun = false; ///< connected since Start, Resume or load
+    bool m_readyWaits = false; ///< the client could take a message, the recorder not
     bool m_bodiesLoaded = false;
     int m_timerHolds = 0;
 };

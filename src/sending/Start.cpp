@@ -78,12 +78,13 @@ void SendingEngine::offerToSave()
 
 void SendingEngine::beginRun()
 {
+    if (!m_recorder->claim())
+        return;
     startNewRun();
     setRunState(RunState::Waiting, "Start was accepted");
-    for (int position = 1; position <= m_recipients.count(); ++position) {
-        m_recipients.setReply(position, {});
+    // What is known of earlier messages stays with the rows.
+    for (int position = 1; position <= m_recipients.count(); ++position)
         m_recipients.setState(position, stateText(RowState::Waiting));
-    }
     m_controlRow = 0;
     if (const QString control = m_form.text(Control::txtControl); !control.isEmpty()) {
         Recipient row;
@@ -109,6 +110,10 @@ void SendingEngine::beginRun()
     m_form.setTag(Control::lblTrascorso, QStringLiteral("0"));
     m_form.setTag(Control::lblRimanente, QStringLiteral("-"));
     m_session.recipientsLeft = m_recipients.checkedFrom(1);
+    if (!m_recorder->begin()) {
+        StopSending();
+        return;
+    }
     m_AppLog.WriteMessage(QStringLiteral("User started sending messages"));
 }
 
@@ -127,6 +132,7 @@ void SendingEngine::ConnectForPacket()
     m_SMTP.Server = server ? server->host : text.section(u':', 0, 0);
     m_SMTP.Port = server ? server->port : 0;
     m_sessionIsOfThisRun = true;
+    m_readyWaits = false; // of the session before
     if (server)
         m_SMTP.Connect();
     m_AppLog.WriteMessage(QStringLiteral("Sending procedure started"));

@@ -99,8 +99,8 @@ QVariant RecipientModel::data(const QModelIndex &index, int role) const
             return Qt::AlignCenter;
         break;
     case Qt::ToolTipRole:
-        if (column == Column::State && !row.reply.isEmpty())
-            return QStringLiteral("<p>%1</p>").arg(row.reply.toText().toHtmlEscaped());
+        if (column == Column::State && !row.attempt.reply.isEmpty())
+            return QStringLiteral("<p>%1</p>").arg(row.attempt.reply.toText().toHtmlEscaped());
         break;
     default:
         break;

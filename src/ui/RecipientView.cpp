@@ -177,8 +177,8 @@ QString RecipientView::selectedText() const
     for (const int position : selectedPositions()) {
         const Recipient &row = m_model->list().at(position);
         text += row.number + u'\t' + row.name + u'\t' + row.address + u'\t' + row.state;
-        if (!row.reply.isEmpty())
-            text += u'\t' + row.reply.toText();
+        if (!row.attempt.reply.isEmpty())
+            text += u'\t' + row.attempt.reply.toText();
         text += u'\n';
     }
     return text;

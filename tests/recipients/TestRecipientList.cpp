@@ -204,14 +204,14 @@ void TestRecipientList::changesAreSaidByPosition()
     const QSignalSpy rows(&rig.list, &RecipientList::rowsChanged);
     const QSignalSpy row(&rig.list, &RecipientList::rowChanged);
     rig.list.setState(2, u"Sent"_s);
-    rig.list.setReply(1, {SmtpVerb::Rcpt, 250, {}, u"ok"_s});
+    rig.list.setAttempt(1, {Outcome::Sent, {SmtpVerb::Rcpt, 250, {}, u"ok"_s}, 0, 1, {}});
     rig.list.setCheckedWithImage(2, false, RowImage::Unchecked);
     QCOMPARE(rows.size(), 0);
     QCOMPARE(row.size(), 3);
     QCOMPARE(row[0][0].toInt(), 2);
     QCOMPARE(row[1][0].toInt(), 1);
     QCOMPARE(row[2][0].toInt(), 2);
-    QCOMPARE(rig.list.at(1).reply.code, 250);
+    QCOMPARE(rig.list.at(1).attempt.reply.code, 250);
     rig.list.remove({1});
     QCOMPARE(rows.size(), 1);
 }

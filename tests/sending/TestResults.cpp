@@ -123,7 +123,7 @@ void TestResults::theReplyIsKeptWithTheRow()
     const ServerReply refusal{SmtpVerb::Rcpt, 550, QStringLiteral("5.1.1"),
                               QStringLiteral("no such user")};
     rig.smtp.raiseDone(false, {refusal});
-    QCOMPARE(rig.w.recipients.at(1).reply, refusal);
+    QCOMPARE(rig.w.recipients.at(1).attempt.reply, refusal);
 }
 
 void TestResults::anErrorWhileConnectingStopsTheRun()

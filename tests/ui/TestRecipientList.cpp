@@ -152,7 +152,8 @@ void TestRecipientList::tooltipOfAStateIsTheServersReply()
     ListRig rig({u"A"_s});
     const QModelIndex state = rig.view().model()->index(0, 3);
     QVERIFY(!state.data(Qt::ToolTipRole).isValid());
-    rig.list().setReply(1, {SmtpVerb::Rcpt, 550, u"5.1.1"_s, u"<a@b> is unknown"_s});
+    rig.list().setAttempt(
+        1, {Outcome::Refused, {SmtpVerb::Rcpt, 550, u"5.1.1"_s, u"<a@b> is unknown"_s}, 0, 1, {}});
     QCOMPARE(state.data(Qt::ToolTipRole).toString(), u"<p>550 5.1.1 &lt;a@b&gt; is unknown</p>"_s);
 }
 
@@ -332,7 +333,8 @@ void TestRecipientList::selectedRowsAreCopiedAsText()
 {
     ListRig rig({u"A"_s, u"B"_s, u"C"_s});
     rig.setState(3, u"Error!"_s);
-    rig.list().setReply(3, {SmtpVerb::Rcpt, 550, {}, u"no such user"_s});
+    rig.list().setAttempt(
+        3, {Outcome::Refused, {SmtpVerb::Rcpt, 550, {}, u"no such user"_s}, 0, 1, {}});
     rig.view().select({1, 3});
     QTest::keyClick(&rig.view(), Qt::Key_C, Qt::ControlModifier);
     const QString expected = u"1\tA\ta@example.net\tWaiting\n"
