@@ -21,7 +21,7 @@ void CliPrompts::ask(const Question &question, Stands stands, std::function<void
                              ? QStringLiteral("Going on, because of --yes.")
                              : QStringLiteral("Not started; --yes goes on all the same."));
         answer = m_goesOnWithoutPictures ? Answer::Yes : Answer::No;
-    } else if (question.buttons == Buttons::OkCancel) {
+    } else if (question.buttons != Buttons::YesNo && question.buttons != Buttons::YesNoCancel) {
         answer = Answer::Cancel;
     }
     post([stands = std::move(stands), then = std::move(then), answer] {

@@ -28,10 +28,17 @@ enum class Topic {
     LinkedImages,
     StopProcedure,
     TrustCertificate,
+    InterruptedRun,
 };
 
-enum class Buttons { YesNo, YesNoCancel, OkCancel };
-enum class Answer { Yes, No, Cancel, Ok };
+enum class Buttons {
+    YesNo,
+    YesNoCancel,
+    OkCancel,
+    ContinueOpenForget, ///< what to do with a run that was interrupted; closing the box is Cancel
+    OpenForget,         ///< the same when nothing is left to go on with
+};
+enum class Answer { Yes, No, Cancel, Ok, Continue, OpenAsItIs, Forget };
 
 /// A message box whose answer decides what comes next.
 struct Question

@@ -77,8 +77,7 @@ SettledMessage SendingEngine::mark(const MessageInFlight &message,
         const RowResult &result = results[place];
         const QString state = stateText(stateAfter(result.outcome));
         settlement.rows.push_back({row.id, state});
-        const int position =
-            isStale(message) ? 0 : m_recipients.positionOf(row.id, row.position);
+        const int position = isStale(message) ? 0 : m_recipients.positionOf(row.id, row.position);
         if (position == 0)
             continue;
         const int tries = m_recipients.at(position).attempt.tries;

@@ -35,7 +35,8 @@ public:
     [[nodiscard]] virtual bool isCaughtUp() = 0;
     /// The message is handed over next.
     [[nodiscard]] virtual bool handingOver(const MessageInFlight &message) = 0;
-    /// What became of the rows of the message last handed over, by place; also when its run is over.
+    /// What became of the rows of the message last handed over, by place; also when its run is
+    /// over.
     virtual void settled(const MessageInFlight &message, const std::vector<RowResult> &results) = 0;
     /// The run is over, however it ended.
     virtual void over() = 0;

@@ -178,7 +178,7 @@ private:
     quint32 m_startedRun = 0;          ///< the number of the run that started last
     int m_searchFrom = 1;              ///< behind the last row that was finished
     bool m_sessionIsOfThisRun = false; ///< connected since Start, Resume or load
-    bool m_readyWaits = false; ///< the client could take a message, the recorder not
+    bool m_readyWaits = false;         ///< the client could take a message, the recorder not
     bool m_bodiesLoaded = false;
     int m_timerHolds = 0;
 };

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -42,6 +43,9 @@ QMessageBox::StandardButtons shown(Buttons buttons)
         return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
     case Buttons::OkCancel:
         return QMessageBox::Ok | QMessageBox::Cancel;
+    case Buttons::ContinueOpenForget:
+    case Buttons::OpenForget:
+        break;
     }
     return QMessageBox::NoButton;
 }
@@ -84,10 +88,28 @@ MessageBox::MessageBox(const ::Question &question, QWidget *window)
     : MessageBox(question.icon, question.title, question.text, {}, window)
 {
     setStandardButtons(shown(question.buttons));
+    addButtons(question.buttons);
     if (question.buttons == Buttons::OkCancel)
         setDefaultButton(Ok);
-    else
+    else if (m_ownButtons.empty())
         setDefaultButton(question.enterIsNo ? No : Yes);
+}
+
+// The first one is what Enter means.
+void MessageBox::addButtons(Buttons buttons)
+{
+    const auto add = [this](const QString &text, ButtonRole role, Answer answer) {
+        QPushButton *const button = addButton(text, role);
+        if (m_ownButtons.empty())
+            setDefaultButton(button);
+        m_ownButtons.emplace_back(button, answer);
+    };
+    if (buttons == Buttons::ContinueOpenForget)
+        add(tr("Continue"), AcceptRole, Answer::Continue);
+    if (buttons == Buttons::ContinueOpenForget || buttons == Buttons::OpenForget) {
+        add(tr("Open as it is"), AcceptRole, Answer::OpenAsItIs);
+        add(tr("Forget"), DestructiveRole, Answer::Forget);
+    }
 }
 
 bool MessageBox::fits(const QString &text) const
@@ -125,6 +147,10 @@ void MessageBox::placeScrolledText()
 
 Answer MessageBox::answer() const
 {
+    for (const auto &[button, answer] : m_ownButtons) {
+        if (button == clickedButton())
+            return answer;
+    }
     switch (standardButton(clickedButton())) {
     case Yes:
         return Answer::Yes;

@@ -4,6 +4,9 @@
 
 #include <QMessageBox>
 
+#include <utility>
+#include <vector>
+
 class QPlainTextEdit;
 
 /// A message box of the program. Its texts are plain. What is too long for a box, and a word too
@@ -34,9 +37,11 @@ private:
     /// Without a button that leaves the matter open, neither Esc nor the title bar closes the box.
     [[nodiscard]] bool mustBeDecided() const { return standardButtons() == (Yes | No); }
     [[nodiscard]] bool fits(const QString &text) const;
+    void addButtons(Buttons buttons);
     void addScrolledText(const QString &text);
     void placeScrolledText();
 
     QString m_fullText;
+    std::vector<std::pair<QAbstractButton *, Answer>> m_ownButtons; ///< with words of our own
     QPlainTextEdit *m_scrolledText = nullptr;
 };

@@ -58,7 +58,9 @@ private:
     {
         static const QList<Answer> all[] = {{Answer::Yes, Answer::No},
                                             {Answer::Yes, Answer::No, Answer::Cancel},
-                                            {Answer::Ok, Answer::Cancel}};
+                                            {Answer::Ok, Answer::Cancel},
+                                            {Answer::Continue, Answer::OpenAsItIs, Answer::Forget},
+                                            {Answer::OpenAsItIs, Answer::Forget}};
         const QList<Answer> &offered = all[static_cast<int>(buttons)];
         return offered.at(upTo(offered.size()));
     }

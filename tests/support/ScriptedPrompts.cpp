@@ -15,9 +15,15 @@ bool isOffered(Buttons buttons, Answer answer)
     case Buttons::YesNo:
         return answer == Answer::Yes || answer == Answer::No;
     case Buttons::YesNoCancel:
-        return answer != Answer::Ok;
+        return answer == Answer::Yes || answer == Answer::No || answer == Answer::Cancel;
     case Buttons::OkCancel:
         return answer == Answer::Ok || answer == Answer::Cancel;
+    case Buttons::ContinueOpenForget:
+        return answer == Answer::Continue || answer == Answer::OpenAsItIs ||
+               answer == Answer::Forget || answer == Answer::Cancel;
+    case Buttons::OpenForget:
+        return answer == Answer::OpenAsItIs || answer == Answer::Forget ||
+               answer == Answer::Cancel;
     }
     return false;
 }

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "journal/RunJournal.h"
+#include "journal/RunRecord.h"
+#include "project/ProjectCommands.h"
+#include "prompts/Prompts.h"
+
+#include <QCoreApplication>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+/// A run that ended with its program. While it lives, no other process can take it.
+struct LeftRun
+{
+    QString file; ///< the record's
+    RunRecord record;
+    std::shared_ptr<RunLock> lock;
+};
+
+/// What to do about runs that a program left behind: found at its next start, or when their project
+/// is opened.
+class Recovery
+{
+    Q_DECLARE_TR_FUNCTIONS(Recovery)
+
+public:
+    Recovery(RunJournal &journal, ProjectCommands &commands, Prompts &prompts);
+
+    /// Asks about each run that was left behind, newest first, until one is shown.
+    void atStart();
+    /// Asks about the run of that project, if one was left behind; openFile opens the file as it
+    /// was saved.
+    void beforeOpening(const QString &path, std::function<void()> openFile);
+
+    /// The newest run of that project; nothing when there is none, or another process has it open.
+    [[nodiscard]] std::optional<LeftRun> leftRunOf(const QString &path) const;
+    /// "578 of 1,450 sent, 3 refused, 2 in doubt, 867 left"
+    [[nodiscard]] static QString summaryOf(const RunRecord &record, Language language);
+    /// Shows the run paused where it stood; it goes on with Resume.
+    void continueRun(const LeftRun &run);
+    /// Shows what became of everyone, without a run.
+    void openAsItIs(const LeftRun &run);
+    /// Throws the record away.
+    void forget(const LeftRun &run);
+
+private:
+    RunJournal &m_journal;
+    ProjectCommands &m_commands;
+    Prompts &m_prompts;
+};

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "base/CodePage.h"
+#include "base/Language.h"
+#include "project/ProjectData.h"
+#include "recipients/Totals.h"
+
+#include <tl/expected.hpp>
+
+/// What is known of a run: the project as it stood when the run began or last went on, brought up
+/// to date with everything that was recorded since.
+struct RunRecord
+{
+    QString projectPath; ///< empty when the project has no name
+    qint64 started = 0;  ///< milliseconds since 1970 UTC
+    ProjectData project; ///< paused where the run goes on; rows with states and attempts
+    bool isOver = false; ///< it ended, was stopped or failed
+    bool isDamaged =
+        false; ///< something in it could not be read; what may have been sent counts so
+
+    /// Of the rows that the run means.
+    [[nodiscard]] Totals totals() const { return totalsOfChecked(project.recipients); }
+    /// Whether a message was handed over at all.
+    [[nodiscard]] bool hasBegun() const;
+};
+
+/// Reads a run's file. States are written in the words of that language. What stands behind the
+/// last whole line of the file does not count; what is broken inside is passed over, and the rows
+/// that nobody accounts for are in doubt. Nothing when it is no run's file, or has no whole
+/// project.
+[[nodiscard]] std::optional<RunRecord> readRun(QByteArrayView content, const CodePage &codePage,
+                                               Language language);
