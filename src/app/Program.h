@@ -5,6 +5,7 @@
 #include "base/CodePage.h"
 #include "base/Language.h"
 #include "base/RegionalFormats.h"
+#include "journal/Recovery.h"
 #include "preflight/Preflight.h"
 #include "preflight/TestMessage.h"
 #include "preflight/TrialMessage.h"
@@ -36,6 +37,9 @@ public:
     SystemSecondTimer Timer2;
     DesktopShell shell;
     Workspace workspace;
+    GroupedSync sync;
+    RunJournal journal;
+    Recovery recovery;
     TrialMessage trial;
     TestMessage testMessage;
     std::unique_ptr<ServerProbe> probe;

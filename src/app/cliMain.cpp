@@ -108,6 +108,7 @@ int main(int argc, char **argv)
     const auto probe = connections.newProbe();
     SystemSecondTimer Timer;
     SystemSecondTimer Timer2;
+    GroupedSync sync;
     const CliSurroundings from{settingsStore,
                                connections.SMTP,
                                connections.trialSMTP,
@@ -119,6 +120,7 @@ int main(int argc, char **argv)
                                codePage,
                                Timer,
                                Timer2,
+                               sync,
                                folder,
                                computerName(),
                                output};

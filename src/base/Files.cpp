@@ -5,6 +5,11 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#ifndef Q_OS_WIN
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
 namespace {
 
 tl::unexpected<FileError> failed(const QString &path, const QString &reason)
@@ -45,6 +50,22 @@ bool writeWhole(QSaveFile &file, const QByteArray &content)
     }
     // The same for what the file still held back: the second try gets the reason.
     return file.flush() || file.flush();
+}
+
+// The content is on the disk; its name has to be too, or a loss of power brings the old file back.
+// Where that cannot be had, the file is none the worse.
+void syncFolderOf(const QString &file)
+{
+#ifndef Q_OS_WIN
+    const QByteArray folder = QFile::encodeName(QFileInfo(file).absolutePath());
+    const int descriptor = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0)
+        return;
+    ::fsync(descriptor);
+    ::close(descriptor);
+#else
+    Q_UNUSED(file)
+#endif
 }
 
 } // namespace
@@ -89,5 +110,6 @@ tl::expected<void, FileError> replaceWholeFile(const QString &path, const QByteA
     // Commit alone would take a file whose last buffer found no room for a whole one.
     if (!file.open(QIODevice::WriteOnly) || !writeWhole(file, content) || !file.commit())
         return failed(path, file.errorString());
+    syncFolderOf(file.fileName());
     return {};
 }

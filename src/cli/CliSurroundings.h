@@ -5,6 +5,7 @@
 #include "base/CodePage.h"
 #include "base/RegionalFormats.h"
 #include "cli/Output.h"
+#include "journal/RunJournal.h"
 #include "log/CLog.h"
 #include "preflight/TrialMessage.h"
 #include "project/Workspace.h"
@@ -27,6 +28,7 @@ struct CliSurroundings
     const CodePage &codePage;
     SecondTimer &Timer;
     SecondTimer &Timer2;
+    DiskSync &sync;
     QString programFolder;
     QString computerName;
     Output &output;
@@ -36,6 +38,22 @@ struct CliSurroundings
     {
         return {workspace.form, workspace.recipients, workspace.reader, workspace.filler,
                 trialSMTP,      trialComposer};
+    }
+
+    /// What the journal of a run works with.
+    [[nodiscard]] JournalParts forJournal(Workspace &workspace, Prompts &prompts,
+                                          CLog &AppLog) const
+    {
+        return {workspace.form,
+                workspace.recipients,
+                workspace.engine,
+                workspace.projectFile,
+                prompts,
+                AppLog,
+                clock,
+                codePage,
+                sync,
+                programFolder};
     }
 
     /// The surroundings of a workspace for a command: English, whatever the setting says.

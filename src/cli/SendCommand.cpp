@@ -19,7 +19,9 @@ SendCommand::SendCommand(const SendOptions &options, const CliSurroundings &from
       m_output(from.output),
       m_prompts(from.output, options.yes),
       m_AppLog(from.programFolder, from.clock, from.formats, from.codePage),
-      m_workspace(from.forWorkspace(m_prompts, m_AppLog))
+      m_workspace(from.forWorkspace(m_prompts, m_AppLog)),
+      m_journal(from.forJournal(m_workspace, m_prompts, m_AppLog)),
+      m_recovery(m_journal, m_workspace.projectCommands, m_workspace.form, m_prompts)
 {
     const SendingEngine &engine = m_workspace.engine;
     connect(&engine, &SendingEngine::rowDone, this, &SendCommand::showRow);
@@ -231,6 +233,7 @@ void SendCommand::finish(ExitCode code)
     if (hasEnded())
         return;
     m_running = false;
+    m_journal.rowsSeen();
     m_output.clearProgress();
     m_output.flush();
     end(code);

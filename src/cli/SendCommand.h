@@ -4,6 +4,7 @@
 #include "cli/CliSurroundings.h"
 #include "cli/CommandLine.h"
 #include "cli/LongCommand.h"
+#include "journal/Recovery.h"
 #include "project/Workspace.h"
 
 /// `send`: a run without a window, from Start or, for a project that was saved paused, from Resume.
@@ -37,6 +38,8 @@ private:
     CliPrompts m_prompts;
     CLog m_AppLog;
     Workspace m_workspace;
+    RunJournal m_journal;
+    Recovery m_recovery;
     bool m_resumed = false;
     bool m_running = false;
     bool m_interrupted = false;

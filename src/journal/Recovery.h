@@ -27,14 +27,11 @@ class Recovery
     Q_DECLARE_TR_FUNCTIONS(Recovery)
 
 public:
-    Recovery(RunJournal &journal, ProjectCommands &commands, Prompts &prompts);
+    /// Asks before the commands open a project from now on.
+    Recovery(RunJournal &journal, ProjectCommands &commands, const Form &form, Prompts &prompts);
 
     /// Asks about each run that was left behind, newest first, until one is shown.
     void atStart();
-    /// Asks about the run of that project, if one was left behind; openFile opens the file as it
-    /// was saved.
-    void beforeOpening(const QString &path, std::function<void()> openFile);
-
     /// The newest run of that project; nothing when there is none, or another process has it open.
     [[nodiscard]] std::optional<LeftRun> leftRunOf(const QString &path) const;
     /// "578 of 1,450 sent, 3 refused, 2 in doubt, 867 left"
@@ -47,7 +44,13 @@ public:
     void forget(const LeftRun &run);
 
 private:
+    void beforeOpening(const QString &path, std::function<void()> openFile);
+    void askAboutNext(QStringList files);
+    void ask(const LeftRun &run, std::function<void()> onForgotten);
+    [[nodiscard]] std::optional<LeftRun> take(const QString &file) const;
+
     RunJournal &m_journal;
     ProjectCommands &m_commands;
+    const Form &m_form;
     Prompts &m_prompts;
 };

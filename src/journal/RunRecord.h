@@ -5,7 +5,7 @@
 #include "project/ProjectData.h"
 #include "recipients/Totals.h"
 
-#include <tl/expected.hpp>
+#include <optional>
 
 /// What is known of a run: the project as it stood when the run began or last went on, brought up
 /// to date with everything that was recorded since.
@@ -24,9 +24,16 @@ struct RunRecord
     [[nodiscard]] bool hasBegun() const;
 };
 
+/// How the file of a run begins: the project, and what is known of every row.
+[[nodiscard]] QByteArray encodeRun(const RunRecord &record, const CodePage &codePage);
+
 /// Reads a run's file. States are written in the words of that language. What stands behind the
 /// last whole line of the file does not count; what is broken inside is passed over, and the rows
 /// that nobody accounts for are in doubt. Nothing when it is no run's file, or has no whole
 /// project.
 [[nodiscard]] std::optional<RunRecord> readRun(QByteArrayView content, const CodePage &codePage,
                                                Language language);
+
+/// The project that the run of that file belongs to; reads no further than the file's head. Empty
+/// when it has no name, or when it is no run's file.
+[[nodiscard]] QString projectOfRun(const QString &file);

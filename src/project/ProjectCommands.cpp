@@ -86,7 +86,7 @@ void ProjectCommands::cmdApri_Click()
 
 void ProjectCommands::openInstead(const QString &path)
 {
-    offerToOpen([this, path] { open(path); });
+    offerToOpen([this, path] { openAsking(path, [this, path] { open(path); }); });
 }
 
 void ProjectCommands::offerToOpen(std::function<void()> then)
@@ -110,13 +110,30 @@ void ProjectCommands::chooseProject()
     };
     m_prompts.askFile(dialog, stands, [this](const QString &name) {
         if (!name.isEmpty())
-            open(name);
+            openAsking(name, [this, name] { open(name); });
     });
+}
+
+void ProjectCommands::openAsking(const QString &path, std::function<void()> openFile)
+{
+    if (beforeOpening)
+        beforeOpening(path, std::move(openFile));
+    else
+        openFile();
 }
 
 LoadOutcome ProjectCommands::open(const QString &path)
 {
-    const LoadOutcome outcome = m_file.LoadProject(path);
+    return opened(m_file.LoadProject(path));
+}
+
+LoadOutcome ProjectCommands::show(const ProjectData &project, const QString &path)
+{
+    return opened(m_file.show(project, path));
+}
+
+LoadOutcome ProjectCommands::opened(LoadOutcome outcome)
+{
     const bool isPaused = outcome == LoadOutcome::LoadedPaused;
     // The paused run that was shown has lost its project.
     if (outcome != LoadOutcome::Refused && !isPaused && m_form.isEnabled(Control::cmdStop))

@@ -49,7 +49,15 @@ public:
     void openInstead(const QString &path);
     /// Loads a project as Open does once its file is chosen.
     LoadOutcome open(const QString &path);
+    /// Shows a project that was read from elsewhere, in the same way.
+    LoadOutcome show(const ProjectData &project, const QString &path);
+    /// Opens a project for somebody who can be asked about it first.
+    void openAsking(const QString &path, std::function<void()> openFile);
     void UpdateCaption();
+
+    /// Asks what stands in the way of opening that file, then calls openFile, or does not. What is
+    /// above the commands hands it in.
+    std::function<void(const QString &path, std::function<void()> openFile)> beforeOpening;
 
 private:
     void offerToSave(Topic topic, const QString &text, Control command, std::function<void()> then);
@@ -57,6 +65,7 @@ private:
     void newProject();
     void offerToOpen(std::function<void()> then);
     void chooseProject();
+    LoadOutcome opened(LoadOutcome outcome);
     [[nodiscard]] Stands whileSameProject() const;
 
     Form &m_form;

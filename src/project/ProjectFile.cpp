@@ -17,10 +17,10 @@ ProjectFile::ProjectFile(Form &form, RecipientList &recipients, Attachments &att
       m_codePage(codePage)
 {}
 
-ProjectData ProjectFile::collect() const
+ProjectData ProjectFile::collect(bool paused) const
 {
     ProjectData project;
-    project.paused = m_form.runState() == RunState::Paused;
+    project.paused = paused;
     project.nextRecipientIndex = m_engine.nextRecipientIndex();
     project.elapsed = m_form.tag(Control::lblTrascorso);
     project.server = m_form.text(Control::txtServer);
@@ -46,9 +46,17 @@ ProjectData ProjectFile::collect() const
     return project;
 }
 
+ProjectData ProjectFile::pausedProject() const
+{
+    ProjectData project = collect(true);
+    if (m_engine.messageInFlight())
+        apply(m_engine.settledInDoubt(), project);
+    return project;
+}
+
 void ProjectFile::SaveProject(const QString &path, std::function<void(bool saved)> then)
 {
-    WaitingSave save{path, collect(), std::move(then)};
+    WaitingSave save{path, collect(m_form.runState() == RunState::Paused), std::move(then)};
     if (!save.project.paused || !m_engine.messageInFlight()) {
         write(save);
         return;
@@ -98,6 +106,8 @@ void ProjectFile::write(const WaitingSave &save)
         m_form.setProjectPath(save.path);
         m_AppLog.WriteMessage(QLatin1String("Project file '") + save.path +
                               QLatin1String("' saved"));
+        if (onSaved)
+            onSaved();
     } else {
         m_prompts.notice({Icon::Critical, tr("Save"), written.error().toText()});
     }
@@ -122,27 +132,33 @@ LoadOutcome ProjectFile::LoadProject(const QString &path)
                    : tr("it ends before its header is complete"));
         return LoadOutcome::Refused;
     }
+    if (project->cut) {
+        show(*project, {});
+        refuse(tr("it ends inside a recipient; the recipients before it were loaded"));
+        return LoadOutcome::LoadedInPart;
+    }
+    return show(*project, path);
+}
+
+LoadOutcome ProjectFile::show(const ProjectData &project, const QString &path)
+{
     m_form.countProjectReplaced();
-    show(*project);
-    m_form.setProjectPath(project->cut ? QString() : path);
+    fillForm(project);
+    m_form.setProjectPath(path);
     m_form.setProjectModified(true);
-    if (project->paused) {
+    if (project.paused) {
         restorePausedRun();
     } else {
         m_form.setTag(Control::lblTrascorso, QStringLiteral("0"));
         m_form.setText(Control::lblTrascorso, QStringLiteral("--:--"));
     }
-    if (project->cut) {
-        refuse(tr("it ends inside a recipient; the recipients before it were loaded"));
-        m_size.UpdateMessageSize();
-        return LoadOutcome::LoadedInPart;
-    }
-    m_AppLog.WriteMessage(QLatin1String("Project file '") + path + QLatin1String("' loaded"));
+    if (!path.isEmpty())
+        m_AppLog.WriteMessage(QLatin1String("Project file '") + path + QLatin1String("' loaded"));
     m_size.UpdateMessageSize();
-    return project->paused ? LoadOutcome::LoadedPaused : LoadOutcome::Loaded;
+    return project.paused ? LoadOutcome::LoadedPaused : LoadOutcome::Loaded;
 }
 
-void ProjectFile::show(const ProjectData &project)
+void ProjectFile::fillForm(const ProjectData &project)
 {
     constexpr qint16 ShownWidth = 60;
     const auto showFile = [this](Control box, const QString &path) {

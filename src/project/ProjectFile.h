@@ -39,10 +39,18 @@ public:
     void SaveProject(const QString &path, std::function<void(bool saved)> then);
     /// Reads the whole file before anything changes.
     LoadOutcome LoadProject(const QString &path);
+    /// Shows a project that was read from elsewhere as that of this path (empty: it has no name).
+    LoadOutcome show(const ProjectData &project, const QString &path);
+    /// The project as it would be saved in a pause: the control row is in it, and the cursor lies
+    /// past a message whose result is not known.
+    [[nodiscard]] ProjectData pausedProject() const;
 
     /// Writes a save that waits for a message now, with that message in doubt: the cursor lies
     /// past it, so that it cannot be sent again.
     void finishWaitingSave();
+
+    /// Called when the project has been saved.
+    std::function<void()> onSaved;
 
 private:
     struct WaitingSave
@@ -52,8 +60,8 @@ private:
         std::function<void(bool)> then;
     };
 
-    [[nodiscard]] ProjectData collect() const;
-    void show(const ProjectData &project);
+    [[nodiscard]] ProjectData collect(bool paused) const;
+    void fillForm(const ProjectData &project);
     void restorePausedRun();
     void write(const WaitingSave &save);
     static void apply(const SettledMessage &settlement, ProjectData &project);

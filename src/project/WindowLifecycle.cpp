@@ -24,8 +24,12 @@ void WindowLifecycle::Form_Load(const QString &projectPath)
 {
     m_commands.UpdateCaption();
     m_settings.LoadSettings();
-    if (!projectPath.isEmpty())
-        m_commands.open(projectPath);
+    if (!projectPath.isEmpty()) {
+        m_commands.openAsking(projectPath, [this, projectPath] {
+            m_commands.open(projectPath);
+            m_form.setProjectModified(false);
+        });
+    }
     m_form.setProjectModified(false);
 }
 
@@ -42,7 +46,7 @@ void WindowLifecycle::Form_QueryUnload(UnloadMode mode)
 void WindowLifecycle::queryUnload()
 {
     if (!m_form.projectModified()) {
-        Form_Unload();
+        leave();
         return;
     }
     Question question;
@@ -55,16 +59,23 @@ void WindowLifecycle::queryUnload()
     };
     m_prompts.ask(question, stands, [this](Answer answer) {
         if (answer == Answer::No) {
-            Form_Unload();
+            leave();
         } else if (answer == Answer::Yes) {
             // A save that is abandoned lets the window close all the same; one that failed does
             // not, since nobody has said that the changes may be lost.
             m_commands.save([this](SaveOutcome outcome) {
                 if (outcome != SaveOutcome::Failed)
-                    Form_Unload();
+                    leave();
             });
         }
     });
+}
+
+void WindowLifecycle::leave()
+{
+    if (onUserLeaves)
+        onUserLeaves();
+    Form_Unload();
 }
 
 void WindowLifecycle::Form_Unload()
@@ -77,5 +88,7 @@ void WindowLifecycle::Form_Unload()
 
 void WindowLifecycle::mnuEsci_Click()
 {
+    if (onUserLeaves)
+        onUserLeaves();
     m_endProcess();
 }

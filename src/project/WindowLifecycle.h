@@ -44,9 +44,12 @@ public:
 
     /// Called before the process ends with the window's close, for what else is to be kept.
     std::function<void()> beforeUnload;
+    /// Called before the process ends because the user wants it.
+    std::function<void()> onUserLeaves;
 
 private:
     void queryUnload();
+    void leave();
     void Form_Unload();
 
     Form &m_form;

@@ -10,6 +10,8 @@ struct RowResult
 {
     Outcome outcome = Outcome::None;
     ServerReply reply;
+
+    bool operator==(const RowResult &) const = default;
 };
 
 /// Keeps a run on the disk while it goes, so that it survives whatever ends the program. The engine

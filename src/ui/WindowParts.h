@@ -3,6 +3,7 @@
 #include "account/Accounts.h"
 #include "account/PasswordStore.h"
 #include "base/Shell.h"
+#include "journal/Recovery.h"
 #include "preflight/Preflight.h"
 #include "preflight/TestMessage.h"
 #include "project/Workspace.h"
@@ -26,6 +27,8 @@ struct WindowParts
     QString traceFile;
     Preflight &preflight;
     TestMessage &testMessage;
+    RunJournal &journal;
+    Recovery &recovery;
     QString programFolder;
     /// The folder that holds the help pages.
     QString helpFolder;

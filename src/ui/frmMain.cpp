@@ -42,6 +42,7 @@ frmMain::frmMain(const WindowParts &parts)
                 parts.shell),
       m_lifecycle(m_form, m_workspace.projectCommands, m_workspace.projectFile,
                   m_workspace.windowSettings, m_workspace.engine, parts.prompts, parts.endProcess),
+      m_recovery(parts.recovery),
       m_place(parts.placeFile),
       m_recipients(new RecipientModel(m_workspace.recipients, this)),
       m_binding(m_form, *this),
@@ -68,8 +69,13 @@ frmMain::frmMain(const WindowParts &parts)
     connect(&m_form, &Form::situationChanged, this, &frmMain::showProgress);
     connect(&m_companions, &Companions::wanted, this, &frmMain::goTo);
     connect(&m_form, &Form::captionChanged, this, [this] { setWindowTitle(m_form.caption()); });
-    m_lifecycle.beforeUnload = [this] {
+    m_lifecycle.beforeUnload = [this, &journal = parts.journal] {
         m_place.save(*this, *m_ui->splitter, *m_ui->lstDestinatari->header());
+        journal.close();
+    };
+    m_lifecycle.onUserLeaves = [&journal = parts.journal] {
+        journal.rowsSeen();
+        journal.close();
     };
 }
 
@@ -79,6 +85,8 @@ void frmMain::Form_Load(const QString &projectPath)
 {
     m_hasPlace = m_place.restore(*this, *m_ui->splitter, *m_ui->lstDestinatari->header());
     m_lifecycle.Form_Load(projectPath);
+    if (projectPath.isEmpty())
+        m_recovery.atStart();
 }
 
 void frmMain::endSession()

@@ -67,6 +67,7 @@ private:
     Companions m_companions;
     EditorCommands m_editors;
     WindowLifecycle m_lifecycle;
+    Recovery &m_recovery;
     WindowPlace m_place;
     RecipientModel *m_recipients;
     FormBinding m_binding;

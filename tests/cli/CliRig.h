@@ -2,6 +2,7 @@
 
 #include "cli/CliSurroundings.h"
 #include "support/FakeComposer.h"
+#include "support/FakeDiskSync.h"
 #include "support/FakeProbe.h"
 #include "support/WorkspaceRig.h"
 
@@ -61,6 +62,7 @@ struct CliRig
                 author.codePage,
                 Timer,
                 Timer2,
+                sync,
                 author.folder.path(),
                 QStringLiteral("pc"),
                 output};
@@ -76,6 +78,7 @@ struct CliRig
     Accounts accounts{author.store, author.codePage};
     FakeTimer Timer;
     FakeTimer Timer2;
+    FakeDiskSync sync;
     CapturedStream results;
     CapturedStream messages;
     Output output{results.file(), messages.file()};

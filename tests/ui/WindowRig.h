@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/FakeComposer.h"
+#include "support/FakeDiskSync.h"
 #include "support/FakePasswordStore.h"
 #include "support/FakeProbe.h"
 #include "support/FakeShell.h"
@@ -25,7 +26,10 @@ struct SideParts
                  composer}),
           test(trial),
           preflight(
-              {core.w.form, core.w.recipients, core.w.attachments, core.w.reader, trial, probe})
+              {core.w.form, core.w.recipients, core.w.attachments, core.w.reader, trial, probe}),
+          journal({core.w.form, core.w.recipients, core.w.engine, core.w.projectFile, core.prompts,
+                   core.log, core.clock, core.codePage, sync, core.folder.path()}),
+          recovery(journal, core.w.projectCommands, core.w.form, core.prompts)
     {}
 
     Accounts accounts;
@@ -36,6 +40,9 @@ struct SideParts
     TrialMessage trial;
     TestMessage test;
     Preflight preflight;
+    FakeDiskSync sync;
+    RunJournal journal;
+    Recovery recovery;
     QList<QPointer<FakeProbe>> probes; ///< of the pages of accounts, in order
 };
 
@@ -74,6 +81,8 @@ public:
                 core->folder.filePath(QStringLiteral("SMTP trace.txt")),
                 side->preflight,
                 side->test,
+                side->journal,
+                side->recovery,
                 core->folder.path(),
                 core->folder.path(),
                 [this] { ++endings; },

@@ -1,0 +1,102 @@
+#pragma once
+
+#include "journal/JournalFile.h"
+#include "journal/RunFolder.h"
+#include "log/CLog.h"
+#include "project/ProjectFile.h"
+#include "prompts/Prompts.h"
+#include "sending/RunRecorder.h"
+
+#include <QCoreApplication>
+#include <QObject>
+
+#include <memory>
+
+/// What the journal of a program works with. All of it outlives the journal.
+struct JournalParts
+{
+    const Form &form;
+    const RecipientList &recipients;
+    SendingEngine &engine;
+    ProjectFile &projectFile;
+    Prompts &prompts;
+    CLog &AppLog;
+    const Clock &clock;
+    const CodePage &codePage;
+    DiskSync &sync;
+    QString programFolder;
+};
+
+/// Keeps the run of a workspace on the disk: one file a run, from its start until everybody is
+/// accounted for and somebody has seen it, or the project was saved with what became of its rows.
+/// Whatever ends the program, the file tells who was sent the message; see RunLines.h.
+///
+/// It also keeps two processes from running the same project: a lock file beside the project names
+/// who runs it.
+class RunJournal : public QObject, public RunRecorder
+{
+    Q_OBJECT
+
+public:
+    explicit RunJournal(const JournalParts &parts);
+
+    // What the engine tells.
+    [[nodiscard]] bool claim() override;
+    void pausedRunOpened() override;
+    [[nodiscard]] bool begin() override;
+    [[nodiscard]] bool isCaughtUp() override;
+    [[nodiscard]] bool handingOver(const MessageInFlight &message) override;
+    void settled(const MessageInFlight &message, const std::vector<RowResult> &results) override;
+    void over() override;
+
+    /// Somebody has seen how the run ended.
+    void rowsSeen();
+    /// The program is about to end: what it holds is let go, and what is left stays on the disk.
+    void close();
+
+    /// The file of this run, or of the last one while it is kept; empty without one.
+    [[nodiscard]] QString file() const { return m_file ? m_file->path() : QString(); }
+    /// Takes over the file of a run that was left behind and is shown now.
+    void adopt(const QString &file, std::shared_ptr<RunLock> lock, bool isOver);
+    /// The lock of a file in the folder of runs; this run's own is shared.
+    [[nodiscard]] tl::expected<std::shared_ptr<RunLock>, LockRefusal>
+    lockOf(const QString &file) const;
+
+    /// Deletes a file that was left behind.
+    void forget(const QString &file);
+    /// The one name of a project's file, however it is written.
+    [[nodiscard]] static QString realPath(const QString &path);
+
+    [[nodiscard]] const RunFolder &folder() const { return m_folder; }
+    [[nodiscard]] const CodePage &codePage() const { return m_codePage; }
+
+private:
+    [[nodiscard]] tl::expected<std::shared_ptr<RunLock>, LockRefusal> lockProject() const;
+    [[nodiscard]] tl::expected<void, FileError> openFile();
+    void removeSuperseded() const;
+    void saved();
+    void situationChanged();
+    void letGo();
+    void discard();
+    [[nodiscard]] bool everybodyIsAccountedFor() const;
+    void report(const FileError &error, const QString &consequence);
+
+    const Form &m_form;
+    const RecipientList &m_recipients;
+    SendingEngine &m_engine;
+    ProjectFile &m_projectFile;
+    Prompts &m_prompts;
+    CLog &m_AppLog;
+    const Clock &m_clock;
+    const CodePage &m_codePage;
+    DiskSync &m_sync;
+    RunFolder m_folder;
+
+    std::shared_ptr<RunLock> m_projectLock;
+    std::shared_ptr<JournalFile> m_file;
+    std::shared_ptr<JournalFile> m_messageFile; ///< where the message in flight stands
+    bool m_isOver = true;
+    bool m_hasBegun = false;    ///< a message was handed over
+    quint32 m_project = 0;      ///< the number of the project whose run this is
+    quint32 m_staleProject = 0; ///< one that another process ran when it was opened here
+};

@@ -1,0 +1,246 @@
+#include "journal/RunRecord.h"
+
+#include "base/InputFields.h"
+#include "base/Numbers.h"
+#include "journal/RunLines.h"
+#include "sending/SendSession.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace {
+
+const QLatin1String AttachmentField("attachment");
+
+// The texts of a project that its file format reads up to a comma.
+struct TextField
+{
+    const char *name;
+    QString ProjectData::*text;
+};
+
+constexpr std::array TextFields{
+    TextField{"elapsed", &ProjectData::elapsed},
+    TextField{"server", &ProjectData::server},
+    TextField{"senderName", &ProjectData::senderName},
+    TextField{"senderAddress", &ProjectData::senderAddress},
+    TextField{"controlAddress", &ProjectData::controlAddress},
+    TextField{"textPath", &ProjectData::textPath},
+    TextField{"htmlPath", &ProjectData::htmlPath},
+    TextField{"subject", &ProjectData::subject},
+    TextField{"recipientsPath", &ProjectData::recipientsPath},
+    TextField{"messagesPerPacket", &ProjectData::messagesPerPacket},
+    TextField{"delayMinutes", &ProjectData::delayMinutes},
+};
+
+bool survivesInFile(const QString &text)
+{
+    const QString line = text + QLatin1String("\r\n");
+    InputFields fields(line);
+    return fields.field() == text && fields.atEnd();
+}
+
+bool isHead(const RunLines::Line &line)
+{
+    return line.kind == QLatin1String("run") && line.fields.value(0) == u"1";
+}
+
+// Takes out of the project what would come back from its file as something else; returns it as
+// lines of their own.
+QByteArray takeFragile(ProjectData &project)
+{
+    QByteArray lines;
+    for (const TextField &field : TextFields) {
+        QString &text = project.*field.text;
+        if (!survivesInFile(text))
+            lines += RunLines::field(QLatin1String(field.name), std::exchange(text, QString()));
+    }
+    if (!std::all_of(project.attachments.begin(), project.attachments.end(), survivesInFile)) {
+        for (const QString &path : std::as_const(project.attachments))
+            lines += RunLines::field(AttachmentField, path);
+        project.attachments.clear();
+    }
+    return lines;
+}
+
+/// Brings a project up to date, line by line.
+class Replay
+{
+public:
+    Replay(RunRecord &record, Language language)
+        : m_record(record),
+          m_project(record.project),
+          m_language(language),
+          m_firstRow(std::max(1, record.project.nextRecipientIndex))
+    {}
+
+    void take(const RunLines::Line &line)
+    {
+        const QStringList &fields = line.fields;
+        if (line.kind == QLatin1String("field"))
+            takeField(fields);
+        else if (line.kind == QLatin1String("try"))
+            takeAttempt(fields);
+        else if (line.kind == QLatin1String("send"))
+            takeSend(fields);
+        else if (line.kind == QLatin1String("done"))
+            takeDone(fields);
+        else if (line.kind == QLatin1String("over"))
+            m_record.isOver = true;
+    }
+
+    /// The rows that no line accounts for. A run goes through the list in order: what lies before
+    /// the place where it goes on was passed over, or else was handed over in a line that is lost.
+    void finish()
+    {
+        const int end = std::min(m_project.nextRecipientIndex - 1, count());
+        for (int position = m_firstRow; position <= end; ++position) {
+            Recipient &row = rowAt(position);
+            if (stateOfWord(row.state) != RowState::Waiting)
+                continue;
+            if (row.checked)
+                set(row, Outcome::InDoubt);
+            else
+                row.state = stateWord(RowState::NotSent, m_language);
+        }
+    }
+
+private:
+    [[nodiscard]] int count() const { return static_cast<int>(m_project.recipients.size()); }
+    [[nodiscard]] Recipient &rowAt(int position)
+    {
+        return m_project.recipients[static_cast<std::size_t>(position - 1)];
+    }
+    [[nodiscard]] std::vector<int> positions(const QString &field) const
+    {
+        return RunLines::positionsOf(field, count());
+    }
+    void set(Recipient &row, Outcome outcome)
+    {
+        row.attempt.outcome = outcome;
+        row.state = stateWord(stateAfter(outcome), m_language);
+    }
+
+    void takeField(const QStringList &fields)
+    {
+        if (fields.value(0) == AttachmentField)
+            m_project.attachments.append(fields.value(1));
+        for (const TextField &field : TextFields) {
+            if (fields.value(0) == QLatin1String(field.name))
+                m_project.*field.text = fields.value(1);
+        }
+    }
+
+    // A message that was with the client when the run went on may have arrived; its "done" comes
+    // further down, if anybody came to write it.
+    void takeAttempt(const QStringList &fields)
+    {
+        for (const int position : positions(fields.value(0))) {
+            Attempt &attempt = rowAt(position).attempt;
+            attempt.outcome = RunLines::outcomeOf(fields.value(1));
+            if (attempt.outcome == Outcome::InFlight)
+                attempt.outcome = Outcome::InDoubt;
+            attempt.time = fields.value(2).toLongLong();
+            attempt.tries = leadingNumber(fields.value(3));
+            attempt.identifier = fields.value(4);
+            attempt.reply = RunLines::replyOf(fields, 5);
+        }
+    }
+
+    void takeSend(const QStringList &fields)
+    {
+        m_project.elapsed = fields.value(1);
+        int last = 0;
+        for (const int position : positions(fields.value(2))) {
+            Recipient &row = rowAt(position);
+            row.attempt = {
+                {}, {}, fields.value(0).toLongLong(), row.attempt.tries + 1, fields.value(3)};
+            set(row, Outcome::InDoubt);
+            last = position;
+        }
+        if (last > 0)
+            m_project.nextRecipientIndex = positionAfter(m_project.recipients, last);
+    }
+
+    void takeDone(const QStringList &fields)
+    {
+        const Outcome outcome = RunLines::outcomeOf(fields.value(2));
+        if (outcome == Outcome::None)
+            return;
+        for (const int position : positions(fields.value(1))) {
+            Recipient &row = rowAt(position);
+            row.attempt.time = fields.value(0).toLongLong();
+            row.attempt.reply = RunLines::replyOf(fields, 3);
+            set(row, outcome);
+            if (outcome == Outcome::NotTaken)
+                m_project.nextRecipientIndex = std::min(m_project.nextRecipientIndex, position);
+        }
+    }
+
+    RunRecord &m_record;
+    ProjectData &m_project;
+    Language m_language;
+    int m_firstRow;
+};
+
+} // namespace
+
+bool RunRecord::hasBegun() const
+{
+    return std::any_of(project.recipients.begin(), project.recipients.end(),
+                       [](const Recipient &row) { return row.attempt.tries > 0; });
+}
+
+QByteArray encodeRun(const RunRecord &record, const CodePage &codePage)
+{
+    ProjectData project = record.project;
+    const QByteArray fragile = takeFragile(project);
+    QByteArray content = RunLines::run(record.started, record.projectPath) +
+                         RunLines::project(codePage.encode(encodeProject(project))) + fragile;
+    int position = 0;
+    for (const Recipient &row : project.recipients) {
+        ++position;
+        if (!row.attempt.isEmpty())
+            content += RunLines::attempt(position, row.attempt);
+    }
+    return content;
+}
+
+std::optional<RunRecord> readRun(QByteArrayView content, const CodePage &codePage,
+                                 Language language)
+{
+    RunLines::Reader reader(content);
+    RunRecord record;
+    const auto head = reader.next();
+    if (!head || !isHead(*head))
+        return std::nullopt;
+    record.started = head->fields.value(1).toLongLong();
+    record.projectPath = head->fields.value(2);
+    const auto saved = reader.next();
+    if (!saved || saved->kind != QLatin1String("project"))
+        return std::nullopt;
+    auto project = decodeProject(codePage.decode(saved->project));
+    if (!project || project->cut)
+        return std::nullopt;
+    record.project = std::move(*project);
+    Replay replay(record, language);
+    while (const auto line = reader.next())
+        replay.take(*line);
+    replay.finish();
+    record.isDamaged = reader.sawBroken();
+    return record;
+}
+
+QString projectOfRun(const QString &file)
+{
+    QFile source(file);
+    if (!source.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray start = source.readLine();
+    RunLines::Reader reader(start);
+    const auto head = reader.next();
+    return head && isHead(*head) ? head->fields.value(2) : QString();
+}
