@@ -29,6 +29,8 @@ struct ServerReply
     QString text;     ///< the server's words, lines joined by one blank, without either code
 
     [[nodiscard]] bool isPositive() const { return code >= 200 && code < 400; }
+    /// A refusal that may be another reply later (4yz).
+    [[nodiscard]] bool isForNow() const { return code >= 400 && code < 500; }
     [[nodiscard]] bool isEmpty() const { return code == 0 && text.isEmpty(); }
 
     /// The reply on one line, as "550 5.1.1 no such user"; only the text when there is no code.
