@@ -20,6 +20,10 @@ enum class SmtpVerb {
     Quit
 };
 
+/// The command's name as administrators know it, as "RCPT"; the content's is "end of DATA". Empty
+/// for None.
+[[nodiscard]] QString nameOf(SmtpVerb verb);
+
 /// What a server said to one command, as data: nobody has to search a text for a number.
 struct ServerReply
 {

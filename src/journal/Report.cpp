@@ -34,40 +34,6 @@ QString csvLine(QStringList fields)
     return fields.join(u';') + "\r\n"_L1;
 }
 
-// The command that the server answered, as it stands in the dialogue.
-QLatin1String commandOf(SmtpVerb verb)
-{
-    switch (verb) {
-    case SmtpVerb::None:
-        break;
-    case SmtpVerb::Greeting:
-        return "connection"_L1;
-    case SmtpVerb::Ehlo:
-        return "EHLO"_L1;
-    case SmtpVerb::Helo:
-        return "HELO"_L1;
-    case SmtpVerb::StartTls:
-        return "STARTTLS"_L1;
-    case SmtpVerb::Auth:
-        return "AUTH"_L1;
-    case SmtpVerb::Rset:
-        return "RSET"_L1;
-    case SmtpVerb::Mail:
-        return "MAIL"_L1;
-    case SmtpVerb::Rcpt:
-        return "RCPT"_L1;
-    case SmtpVerb::Data:
-        return "DATA"_L1;
-    case SmtpVerb::Bdat:
-        return "BDAT"_L1;
-    case SmtpVerb::Content:
-        return "end of DATA"_L1;
-    case SmtpVerb::Quit:
-        return "QUIT"_L1;
-    }
-    return {};
-}
-
 /// The words for an outcome: one for programs, one for people.
 struct OutcomeWord
 {
@@ -167,7 +133,7 @@ QStringList Report::fieldsOf(const Recipient &row) const
             reply.code == 0 ? QString() : QString::number(reply.code),
             reply.enhanced,
             reply.text,
-            commandOf(reply.verb),
+            nameOf(reply.verb),
             attempt.identifier,
             queueIdOf(reply)};
 }
@@ -205,7 +171,7 @@ QByteArray Report::toJson() const
             {u"code"_s, reply.code == 0 ? QJsonValue() : QJsonValue(reply.code)},
             {u"enhanced"_s, orNull(reply.enhanced)},
             {u"reply"_s, orNull(reply.text)},
-            {u"command"_s, orNull(commandOf(reply.verb))},
+            {u"command"_s, orNull(nameOf(reply.verb))},
             {u"identifier"_s, orNull(attempt.identifier)},
             {u"queueId"_s, orNull(queueIdOf(reply))},
         });
