@@ -20,6 +20,10 @@ enum class SmtpVerb {
     Quit
 };
 
+/// The command's name as administrators know it, as "RCPT"; the content's is "end of DATA". Empty
+/// for None.
+[[nodiscard]] QString nameOf(SmtpVerb verb);
+
 /// What a server said to one command, as data: nobody has to search a text for a number.
 struct ServerReply
 {
@@ -29,6 +33,8 @@ struct ServerReply
     QString text;     ///< the server's words, lines joined by one blank, without either code
 
     [[nodiscard]] bool isPositive() const { return code >= 200 && code < 400; }
+    /// A refusal that may be another reply later (4yz).
+    [[nodiscard]] bool isForNow() const { return code >= 400 && code < 500; }
     [[nodiscard]] bool isEmpty() const { return code == 0 && text.isEmpty(); }
 
     /// The reply on one line, as "550 5.1.1 no such user"; only the text when there is no code.

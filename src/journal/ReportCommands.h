@@ -20,10 +20,12 @@ public:
 
     /// Asks for a file and writes the report as it is then; a box says when it cannot be written.
     void cmdReport_Click();
-    /// The report as it is now.
-    [[nodiscard]] Report report() const;
+    /// Writes it as it is now, and logs that.
+    [[nodiscard]] tl::expected<void, FileError> write(const QString &path) const;
 
 private:
+    [[nodiscard]] Report report() const;
+
     const Form &m_form;
     const RecipientList &m_recipients;
     const Clock &m_clock;

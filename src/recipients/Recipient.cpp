@@ -73,7 +73,5 @@ bool isInDoubt(const Recipient &row)
 
 bool isRefusedForNow(const Recipient &row)
 {
-    constexpr int HundredsForNow = 4;
-    return stateOfWord(row.state) == RowState::Error &&
-           row.attempt.reply.code / 100 == HundredsForNow;
+    return stateOfWord(row.state) == RowState::Error && row.attempt.reply.isForNow();
 }

@@ -17,6 +17,8 @@ struct Totals
     int refusedForNow = 0; ///< those among the refused
 
     void count(const Recipient &row);
+    /// Whether it is known of everybody that they got the message or did not.
+    [[nodiscard]] bool isAccountedFor() const { return inDoubt == 0 && waiting == 0; }
 
     bool operator==(const Totals &) const = default;
 };

@@ -2,6 +2,11 @@
 
 // The number stands in the text as the language writes it; the count only chooses the form.
 
+QString TotalsText::inDoubt(const Totals &totals) const
+{
+    return tr("%1 in doubt", "", totals.inDoubt).arg(number(totals.inDoubt));
+}
+
 QString TotalsText::problems(const Totals &totals) const
 {
     QString text;
@@ -9,8 +14,7 @@ QString TotalsText::problems(const Totals &totals) const
         text +=
             QLatin1String(", ") + tr("%1 refused", "", totals.refused).arg(number(totals.refused));
     if (totals.inDoubt > 0)
-        text +=
-            QLatin1String(", ") + tr("%1 in doubt", "", totals.inDoubt).arg(number(totals.inDoubt));
+        text += QLatin1String(", ") + inDoubt(totals);
     return text;
 }
 
@@ -28,4 +32,14 @@ QString TotalsText::atTheEnd(const Totals &totals) const
 QString TotalsText::left(const Totals &totals) const
 {
     return tr("%1 left", "", totals.waiting).arg(number(totals.waiting));
+}
+
+QString TotalsText::unaccountedFor(const Totals &totals) const
+{
+    QStringList pieces;
+    if (totals.inDoubt > 0)
+        pieces += inDoubt(totals);
+    if (totals.waiting > 0)
+        pieces += left(totals);
+    return pieces.join(QLatin1String(", "));
 }

@@ -20,8 +20,12 @@ public:
     [[nodiscard]] QString atTheEnd(const Totals &totals) const;
     /// "867 left"
     [[nodiscard]] QString left(const Totals &totals) const;
+    /// "2 in doubt, 867 left": those of whom nobody can say yet that they got the message, or that
+    /// they did not; empty when there are none.
+    [[nodiscard]] QString unaccountedFor(const Totals &totals) const;
 
 private:
+    [[nodiscard]] QString inDoubt(const Totals &totals) const;
     [[nodiscard]] QString problems(const Totals &totals) const;
     [[nodiscard]] QString number(int count) const { return m_locale.toString(count); }
 

@@ -35,6 +35,21 @@ void TestServerReply::positiveRepliesAreThoseOf2xxAnd3xx()
         QVERIFY(!(ServerReply{SmtpVerb::Data, code, {}, {}}.isPositive()));
 }
 
+void TestServerReply::refusalsForNowAreThoseOf4xx()
+{
+    for (const int code : {400, 421, 499})
+        QVERIFY((ServerReply{SmtpVerb::Rcpt, code, {}, {}}.isForNow()));
+    for (const int code : {0, 250, 354, 399, 500, 550})
+        QVERIFY(!(ServerReply{SmtpVerb::Rcpt, code, {}, {}}.isForNow()));
+}
+
+void TestServerReply::commandsHaveTheNamesOfTheDialogue()
+{
+    QCOMPARE(nameOf(SmtpVerb::None), QString());
+    QCOMPARE(nameOf(SmtpVerb::Rcpt), u"RCPT"_s);
+    QCOMPARE(nameOf(SmtpVerb::Content), u"end of DATA"_s);
+}
+
 void TestServerReply::emptyIsNoReplyAtAll()
 {
     QVERIFY(ServerReply{}.isEmpty());

@@ -11,5 +11,7 @@ private Q_SLOTS:
     void text_data();
     void text();
     void positiveRepliesAreThoseOf2xxAnd3xx();
+    void refusalsForNowAreThoseOf4xx();
+    void commandsHaveTheNamesOfTheDialogue();
     void emptyIsNoReplyAtAll();
 };

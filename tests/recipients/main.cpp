@@ -1,3 +1,4 @@
+#include "TestQueueId.h"
 #include "TestRecipientCommands.h"
 #include "TestRecipientList.h"
 #include "TestRecipientsFile.h"
@@ -6,6 +7,6 @@
 
 int main(int argc, char **argv)
 {
-    return runTests<TestStateWords, TestRecipientList, TestRecipientCommands, TestRecipientsFile>(
-        argc, argv);
+    return runTests<TestStateWords, TestRecipientList, TestRecipientCommands, TestRecipientsFile,
+                    TestQueueId>(argc, argv);
 }
