@@ -255,6 +255,21 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     </message>
 </context>
 <context>
+    <name>MessageBox</name>
+    <message>
+        <source>Continue</source>
+        <translation>Continua</translation>
+    </message>
+    <message>
+        <source>Open as it is</source>
+        <translation>Apri com&apos;è</translation>
+    </message>
+    <message>
+        <source>Forget</source>
+        <translation>Dimentica</translation>
+    </message>
+</context>
+<context>
     <name>MessageFiles</name>
     <message>
         <source>Select the message file:</source>
@@ -601,6 +616,236 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     </message>
 </context>
 <context>
+    <name>Recovery</name>
+    <message>
+        <source>a project without a name</source>
+        <translation>un progetto senza nome</translation>
+    </message>
+    <message>
+        <source>Interrupted run</source>
+        <translation>Invio interrotto</translation>
+    </message>
+    <message>
+        <source>What became of a run of %1 has not been seen or saved:</source>
+        <translation>L&apos;esito di un invio di %1 non è stato visto né salvato:</translation>
+    </message>
+    <message>
+        <source>&quot;Continue&quot; shows the run paused where it stood: it goes on with Resume, and who is in doubt is left out.</source>
+        <translation>&quot;Continua&quot; mostra l&apos;invio in pausa al punto in cui era: prosegue con Riprendi, e chi è in dubbio resta escluso.</translation>
+    </message>
+    <message>
+        <source>&quot;Open as it is&quot; shows what became of everybody, without a run.
+&quot;Forget&quot; throws this record away.</source>
+        <translation>&quot;Apri com&apos;è&quot; mostra l&apos;esito per ciascun destinatario, senza alcun invio in corso.
+&quot;Dimentica&quot; elimina questa registrazione.</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>in doubt</source>
+        <translation>in dubbio</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>inviato</translation>
+    </message>
+    <message>
+        <source>refused for now</source>
+        <translation>rifiutato per ora</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>rifiutato</translation>
+    </message>
+    <message>
+        <source>not taken</source>
+        <translation>non preso in carico</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nessuno</translation>
+    </message>
+    <message>
+        <source>Report of the project</source>
+        <translation>Resoconto del progetto</translation>
+    </message>
+    <message>
+        <source>No Name</source>
+        <translation>Senza Nome</translation>
+    </message>
+    <message>
+        <source>Subject</source>
+        <translation>Oggetto</translation>
+    </message>
+    <message>
+        <source>Sender</source>
+        <translation>Mittente</translation>
+    </message>
+    <message>
+        <source>Made</source>
+        <translation>Creato</translation>
+    </message>
+    <message>
+        <source>Recipients</source>
+        <translation>Destinatari</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Inviati</translation>
+    </message>
+    <message>
+        <source>Refused</source>
+        <translation>Rifiutati</translation>
+    </message>
+    <message>
+        <source>Of them for now</source>
+        <translation>Di cui per ora</translation>
+    </message>
+    <message>
+        <source>In doubt</source>
+        <translation>In dubbio</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>In attesa</translation>
+    </message>
+    <message>
+        <source>Not sent</source>
+        <translation>Non inviati</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Risultato</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Completo</translation>
+    </message>
+    <message>
+        <source>Not complete: %1</source>
+        <translation>Non completo: %1</translation>
+    </message>
+    <message>
+        <source>N°</source>
+        <translation>N°</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Indirizzo E-Mail</translation>
+    </message>
+    <message>
+        <source>Checked</source>
+        <translation>Selezionato</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>Last outcome</source>
+        <translation>Ultimo esito</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>Tries</source>
+        <translation>Tentativi</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Codice</translation>
+    </message>
+    <message>
+        <source>Enhanced code</source>
+        <translation>Codice esteso</translation>
+    </message>
+    <message>
+        <source>Server&apos;s text</source>
+        <translation>Testo del server</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Comando</translation>
+    </message>
+    <message>
+        <source>Message identifier</source>
+        <translation>Identificativo del messaggio</translation>
+    </message>
+    <message>
+        <source>Queue id</source>
+        <translation>Id nella coda</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sì</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+</context>
+<context>
+    <name>ReportCommands</name>
+    <message>
+        <source>Select the file for the report:</source>
+        <translation>Selezionare il file per il resoconto:</translation>
+    </message>
+    <message>
+        <source>Report (*.csv)|*.csv|JSON (*.json)|*.json</source>
+        <translation>Resoconto (*.csv)|*.csv|JSON (*.json)|*.json</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Resoconto</translation>
+    </message>
+</context>
+<context>
+    <name>RunJournal</name>
+    <message>
+        <source>Run</source>
+        <translation>Invio</translation>
+    </message>
+    <message>
+        <source>This project was being run by another program when it was opened here. Open it again to see how far that run came.</source>
+        <translation>Un altro programma stava inviando questo progetto quando è stato aperto qui. Riaprirlo per vedere fin dove è arrivato quell&apos;invio.</translation>
+    </message>
+    <message>
+        <source>This project is being run by another program: process %1 on %2. It cannot be run twice at the same time.</source>
+        <translation>Un altro programma sta inviando questo progetto: processo %1 su %2. Non può essere inviato due volte contemporaneamente.</translation>
+    </message>
+    <message>
+        <source>The run cannot be recorded, and is not started.</source>
+        <translation>L&apos;invio non può essere registrato e non viene avviato.</translation>
+    </message>
+    <message>
+        <source>If that program is gone, delete the file %1.</source>
+        <translation>Se quel programma non è più in esecuzione, eliminare il file %1.</translation>
+    </message>
+    <message>
+        <source>%1: it cannot be written</source>
+        <translation>%1: impossibile scriverlo</translation>
+    </message>
+    <message>
+        <source>The run cannot be recorded, and does not go on.</source>
+        <translation>L&apos;invio non può essere registrato e non prosegue.</translation>
+    </message>
+    <message>
+        <source>it cannot be written</source>
+        <translation>impossibile scriverlo</translation>
+    </message>
+    <message>
+        <source>The run is paused, because it cannot be recorded any more. What was sent so far is known. Make room and press Resume.</source>
+        <translation>L&apos;invio è in pausa, perché non può più essere registrato. Quanto è stato inviato finora è noto. Liberare spazio e premere Riprendi.</translation>
+    </message>
+</context>
+<context>
     <name>ServerReport</name>
     <message>
         <source>You trust this certificate.</source>
@@ -802,6 +1047,44 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <message>
         <source>Test message</source>
         <translation>Messaggio di prova</translation>
+    </message>
+</context>
+<context>
+    <name>TotalsText</name>
+    <message numerus="yes">
+        <source>%1 in doubt</source>
+        <translation>
+            <numerusform>%1 in dubbio</numerusform>
+            <numerusform>%1 in dubbio</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 refused</source>
+        <translation>
+            <numerusform>%1 rifiutato</numerusform>
+            <numerusform>%1 rifiutati</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 of %2 sent</source>
+        <translation>
+            <numerusform>%1 di %2 inviato</numerusform>
+            <numerusform>%1 di %2 inviati</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 sent</source>
+        <translation>
+            <numerusform>%1 inviato</numerusform>
+            <numerusform>%1 inviati</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 left</source>
+        <translation>
+            <numerusform>%1 rimasto</numerusform>
+            <numerusform>%1 rimasti</numerusform>
+        </translation>
     </message>
 </context>
 <context>

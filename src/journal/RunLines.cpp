@@ -10,25 +10,20 @@ namespace {
 
 constexpr int ChecksumDigits = 8;
 
-// The words of the file; their order is that of the enumerations.
+// Their order is that of the enumeration.
 constexpr std::array OutcomeWords{"none", "in-flight", "sent", "refused", "not-taken", "in-doubt"};
-constexpr std::array VerbWords{"-",    "greeting", "EHLO", "HELO", "STARTTLS", "AUTH", "RSET",
-                               "MAIL", "RCPT",     "DATA", "BDAT", "content",  "QUIT"};
-
-template <typename Words, typename Value>
-QByteArray wordOf(const Words &words, Value value)
+QByteArray wordOf(Outcome outcome)
 {
-    return words[static_cast<std::size_t>(value)];
+    return OutcomeWords[static_cast<std::size_t>(outcome)];
 }
 
-template <typename Value, typename Words>
-std::optional<Value> valueOf(const Words &words, const QString &word)
+SmtpVerb verbOf(const QString &word)
 {
-    for (std::size_t place = 0; place < words.size(); ++place) {
-        if (word == QLatin1String(words[place]))
-            return static_cast<Value>(place);
+    for (int verb = 0; verb <= static_cast<int>(SmtpVerb::Quit); ++verb) {
+        if (nameOf(static_cast<SmtpVerb>(verb)) == word)
+            return static_cast<SmtpVerb>(verb);
     }
-    return std::nullopt;
+    return SmtpVerb::None;
 }
 
 QByteArray checksumOf(QByteArrayView bytes)
@@ -84,7 +79,7 @@ QByteArray textOf(const std::vector<int> &positions)
 
 QByteArray textOf(const ServerReply &reply)
 {
-    return wordOf(VerbWords, reply.verb) + '\t' + QByteArray::number(reply.code) + '\t' +
+    return nameOf(reply.verb).toUtf8() + '\t' + QByteArray::number(reply.code) + '\t' +
            escaped(reply.enhanced) + '\t' + escaped(reply.text);
 }
 
@@ -108,10 +103,9 @@ QByteArray RunLines::field(const QString &name, const QString &value)
 
 QByteArray RunLines::attempt(int position, const Attempt &attempt)
 {
-    return line("try\t" + QByteArray::number(position) + '\t' +
-                wordOf(OutcomeWords, attempt.outcome) + '\t' + QByteArray::number(attempt.time) +
-                '\t' + QByteArray::number(attempt.tries) + '\t' + escaped(attempt.identifier) +
-                '\t' + textOf(attempt.reply));
+    return line("try\t" + QByteArray::number(position) + '\t' + wordOf(attempt.outcome) + '\t' +
+                QByteArray::number(attempt.time) + '\t' + QByteArray::number(attempt.tries) + '\t' +
+                escaped(attempt.identifier) + '\t' + textOf(attempt.reply));
 }
 
 QByteArray RunLines::send(qint64 time, const QString &elapsed, const std::vector<int> &positions,
@@ -125,7 +119,7 @@ QByteArray RunLines::done(qint64 time, const std::vector<int> &positions, Outcom
                           const ServerReply &reply)
 {
     return line("done\t" + QByteArray::number(time) + '\t' + textOf(positions) + '\t' +
-                wordOf(OutcomeWords, outcome) + '\t' + textOf(reply));
+                wordOf(outcome) + '\t' + textOf(reply));
 }
 
 QByteArray RunLines::over(qint64 time)
@@ -187,13 +181,17 @@ std::vector<int> RunLines::positionsOf(const QString &field, int rows)
 
 Outcome RunLines::outcomeOf(const QString &field)
 {
-    return valueOf<Outcome>(OutcomeWords, field).value_or(Outcome::None);
+    for (std::size_t place = 0; place < OutcomeWords.size(); ++place) {
+        if (field == QLatin1String(OutcomeWords[place]))
+            return static_cast<Outcome>(place);
+    }
+    return Outcome::None;
 }
 
 ServerReply RunLines::replyOf(const QStringList &fields, qsizetype first)
 {
     ServerReply reply;
-    reply.verb = valueOf<SmtpVerb>(VerbWords, fields.value(first)).value_or(SmtpVerb::None);
+    reply.verb = verbOf(fields.value(first));
     reply.code = leadingNumber(fields.value(first + 1));
     reply.enhanced = fields.value(first + 2);
     reply.text = fields.value(first + 3);

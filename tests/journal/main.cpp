@@ -1,8 +1,13 @@
+#include "TestJournalFile.h"
+#include "TestRecovery.h"
 #include "TestReport.h"
 #include "TestReportCommands.h"
+#include "TestRunJournal.h"
+#include "TestRunRecord.h"
 #include "support/RunTests.h"
 
 int main(int argc, char **argv)
 {
-    return runTests<TestReport, TestReportCommands>(argc, argv);
+    return runTests<TestRunRecord, TestJournalFile, TestRunJournal, TestRecovery, TestReport,
+                    TestReportCommands>(argc, argv);
 }

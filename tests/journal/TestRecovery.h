@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QObject>
+
+/// What a program that died has left behind, and what the next one does about it.
+class TestRecovery : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theQuestionSaysHowManyWereSentAreInDoubtAndAreLeft_data();
+    void theQuestionSaysHowManyWereSentAreInDoubtAndAreLeft();
+    void continueShowsTheRunPausedWhereItStood();
+    void whoIsInDoubtIsNotSentAgain();
+    void openAsItIsShowsWhatBecameOfEverybodyWithoutARun();
+    void forgetOpensTheFileAsItWasSaved();
+    void aClosedQuestionOpensNothingAndIsAskedAgain();
+    void aRunWithNobodyLeftCannotBeContinued();
+    void aProjectWithoutARunIsOpenedUnasked();
+    void atStartTheNewestIsAskedAboutFirst();
+    void aRunWithoutAProjectFileIsAskedAboutAtStart();
+    void aRunThatSentNothingIsNotAskedAbout();
+    void aRecordThatCannotBeReadStaysAndIsNotAskedAbout();
+    void aRunThatAnotherProcessHasOpenIsNotAskedAbout();
+    void theProjectAtTheCommandLineIsAskedAbout();
+    void aPausedRunOfThisWindowIsAskedAboutWhenItsProjectIsOpenedAgain();
+    void theControlRowGoesOnWithTheRunAndNotWithoutIt();
+    void aRunContinuedAndKilledAgainIsContinuedAgain();
+    void aRecoveredRunCountsAsModified();
+};

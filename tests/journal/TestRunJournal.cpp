@@ -1,0 +1,433 @@
+#include "TestRunJournal.h"
+
+#include "JournalRig.h"
+#include "support/AsNobody.h"
+#include "support/FileSizeLimit.h"
+
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const ServerReply Taken{SmtpVerb::Bdat, 250, u"2.0.0"_s, u"queued as 4X1"_s};
+const ServerReply Unknown{SmtpVerb::Rcpt, 550, u"5.1.1"_s, u"no such user"_s};
+
+// The lock of a process on another machine: whether it lives nobody here can know.
+void lockElsewhere(const QString &file)
+{
+    writeFile(file + u".lock"_s, "4711\nsorvanta\nother-pc\nanother machine\nanother boot\n");
+}
+
+enum Mode { ReadOnly, Writable };
+
+// For everybody, since the tests may be those of root.
+void setMode(const QString &folder, Mode mode)
+{
+    QFile::Permissions permissions = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup |
+                                     QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
+    if (mode == Writable)
+        permissions |= QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    QVERIFY(QFile::setPermissions(folder, permissions));
+}
+
+bool isLocked(const QString &file)
+{
+    return !RunLock::take(file);
+}
+
+QStringList recordedStates(const JournalRig &j)
+{
+    QStringList states;
+    const auto record = j.readRecord();
+    for (const Recipient &row : record->project.recipients)
+        states.append(row.state);
+    return states;
+}
+
+} // namespace
+
+void TestRunJournal::startWritesTheProjectAsItStands()
+{
+    JournalRig j;
+    j.rig->w.form.setText(Control::txtControl, u"me@example.org"_s);
+    j.save();
+    j.rig->uncheck(2);
+    j.rig->start();
+    const auto record = j.readRecord();
+    QCOMPARE(record->projectPath, j.path());
+    QVERIFY(record->project.paused);
+    QCOMPARE(record->project.nextRecipientIndex, 1);
+    QCOMPARE(record->project.subject, u"News"_s);
+    QCOMPARE(record->project.recipients.size(), std::size_t(5)); // with the control row
+    QVERIFY(!record->project.recipients[1].checked);
+    QVERIFY(!record->hasBegun());
+}
+
+void TestRunJournal::aMessageIsRecordedBeforeItIsHandedOver()
+{
+    JournalRig j;
+    QStringList atHandOver;
+    j.rig->smtp.onSend = [&] { atHandOver = recordedStates(j); };
+    j.rig->startSending();
+    QCOMPARE(atHandOver, QStringList({u"Sending..."_s, u"Waiting"_s, u"Waiting"_s, u"Waiting"_s}));
+    const QString identifier = j.attempt(1).identifier;
+    QVERIFY(!identifier.isEmpty());
+    QVERIFY(j.rig->smtp.ExtraHeaders.contains(identifier));
+    QCOMPARE(j.readRecord()->project.recipients[0].attempt.identifier, identifier);
+    QCOMPARE(j.attempt(1).outcome, Outcome::InFlight);
+    QCOMPARE(j.attempt(1).tries, 1);
+}
+
+void TestRunJournal::resultsFollowWithWhatTheServerSaid()
+{
+    JournalRig j;
+    j.rig->startSending();
+    j.rig->smtp.raiseDone(true, {Taken});
+    j.rig->smtp.raiseReady();
+    j.rig->smtp.raiseDone(false, {Unknown});
+    QCOMPARE(recordedStates(j), QStringList({u"Sent"_s, u"Error!"_s, u"Waiting"_s, u"Waiting"_s}));
+    const auto record = j.readRecord();
+    for (int position = 1; position <= 2; ++position)
+        QCOMPARE(record->project.recipients[std::size_t(position - 1)].attempt,
+                 j.attempt(position));
+    QCOMPARE(j.attempt(1).reply, Taken);
+    QCOMPARE(j.attempt(2).reply, Unknown);
+    QCOMPARE(j.attempt(2).time, j.rig->clock.milliseconds());
+}
+
+void TestRunJournal::rowsOfAGroupWithTheSameReplyShareALine()
+{
+    JournalRig j;
+    j.rig->w.form.setChecked(Control::chkMultiSend, true);
+    j.rig->startSending();
+    const qsizetype before = j.record().count('\n');
+    j.rig->smtp.raiseDone(true, {Taken, Taken, Unknown, Taken});
+    QCOMPARE(j.record().count('\n') - before, 3);
+    QCOMPARE(recordedStates(j), QStringList({u"Sent"_s, u"Sent"_s, u"Error!"_s, u"Sent"_s}));
+}
+
+void TestRunJournal::resumeWritesTheProjectAnew()
+{
+    JournalRig j;
+    j.rig->startSending();
+    j.rig->smtp.raiseDone(true, {Taken});
+    j.pauseOrResume();
+    j.rig->smtp.raiseReady();
+    const QStringList names = j.records();
+    j.pauseOrResume();
+    QCOMPARE(j.records(), names);
+    const auto record = j.readRecord();
+    QCOMPARE(record->project.nextRecipientIndex, 2);
+    QCOMPARE(record->project.recipients[0].attempt, j.attempt(1));
+    j.rig->Timer.tick();
+    j.rig->smtp.raiseReady();
+    QCOMPARE(recordedStates(j),
+             QStringList({u"Sent"_s, u"Sending..."_s, u"Waiting"_s, u"Waiting"_s}));
+}
+
+void TestRunJournal::aMessageInFlightAtResumeIsInDoubtUntilItsResult()
+{
+    JournalRig j;
+    j.rig->startSending();
+    j.pauseOrResume();
+    j.pauseOrResume();
+    QCOMPARE(recordedStates(j).front(), u"Sending..."_s);
+    QCOMPARE(j.readRecord()->project.nextRecipientIndex, 2);
+    j.rig->smtp.raiseDone(true, {Taken});
+    QCOMPARE(recordedStates(j).front(), u"Sent"_s);
+    QCOMPARE(j.readRecord()->project.recipients[0].attempt.reply, Taken);
+}
+
+void TestRunJournal::aResultThatComesAfterAnotherProjectIsOpenedGoesToItsOwnRun()
+{
+    JournalRig j;
+    j.save(u"other.svk"_s);
+    j.save();
+    j.rig->startSending();
+    j.pauseOrResume();
+    j.rig->w.projectCommands.open(j.path(u"other.svk"_s));
+    QCOMPARE(recordedStates(j).front(), u"Sending..."_s);
+    j.rig->smtp.raiseDone(true, {Taken});
+    QCOMPARE(recordedStates(j).front(), u"Sent"_s);
+    QCOMPARE(j.rig->state(1), u"Waiting"_s);
+}
+
+void TestRunJournal::aRunThatSentNothingLeavesNoRecord()
+{
+    JournalRig j;
+    j.rig->start();
+    QCOMPARE(j.records().size(), 1);
+    j.rig->Timer.tick();
+    j.rig->smtp.raiseError(4, u"connection refused"_s);
+    QCOMPARE(j.records(), QStringList());
+    QCOMPARE(j.rig->prompts.takeNoticeTexts(), QStringList(u"SMTP: Errorconnection refused"_s));
+}
+
+void TestRunJournal::theRecordOfACompleteRunStaysUntilItsRowsWereSeen()
+{
+    JournalRig j;
+    j.rig->startSending();
+    for (int i = 0; i < 4; ++i) {
+        j.journal->rowsSeen(); // not while it goes on
+        j.rig->finishMessage(i != 2);
+    }
+    QCOMPARE(j.rig->prompts.takeNoticeTexts(), QStringList(u"Sending ended."_s));
+    QVERIFY(j.readRecord()->isOver);
+    QCOMPARE(j.readRecord()->totals().refused, 1);
+    j.journal->rowsSeen();
+    QCOMPARE(j.records(), QStringList());
+}
+
+void TestRunJournal::theRecordOfAStoppedRunStaysUntilTheProjectIsSaved()
+{
+    JournalRig j;
+    j.save();
+    j.rig->startSending();
+    j.rig->smtp.raiseDone(true);
+    j.stop();
+    j.journal->rowsSeen();
+    QVERIFY(j.readRecord()->isOver);
+    j.save();
+    QCOMPARE(j.records(), QStringList());
+}
+
+void TestRunJournal::theRecordOfAPausedRunGoesWhenTheProjectIsSaved()
+{
+    JournalRig j;
+    j.save();
+    j.rig->startSending();
+    j.pauseOrResume();
+    j.rig->w.projectFile.SaveProject(j.path(), [](bool) {});
+    QCOMPARE(j.records().size(), 1); // the file waits for the message too
+    j.rig->smtp.raiseDone(true);
+    QCOMPARE(j.records(), QStringList());
+    j.rig->settle();
+    j.pauseOrResume();
+    QCOMPARE(j.readRecord()->project.nextRecipientIndex, 2);
+}
+
+void TestRunJournal::theRecordStaysWhenAnotherProjectIsOpened()
+{
+    JournalRig j;
+    j.save(u"other.svk"_s);
+    j.save();
+    j.rig->startSending();
+    j.rig->smtp.raiseDone(true);
+    j.stop();
+    j.rig->w.projectCommands.open(j.path(u"other.svk"_s));
+    QCOMPARE(j.readRecord()->projectPath, j.path());
+}
+
+void TestRunJournal::anotherStartReplacesTheRecord()
+{
+    JournalRig j;
+    j.save();
+    j.rig->startSending();
+    j.rig->smtp.raiseDone(true, {Taken});
+    j.stop();
+    const QStringList before = j.records();
+    j.rig->clock.advanceMilliseconds(1);
+    j.rig->start();
+    QCOMPARE(j.records().size(), 1);
+    QVERIFY(j.records() != before);
+    QVERIFY(!j.readRecord()->isOver);
+    // What the row was told before is still known.
+    QCOMPARE(j.rig->state(1), u"Waiting"_s);
+    QCOMPARE(j.readRecord()->project.recipients[0].attempt.reply, Taken);
+}
+
+void TestRunJournal::theNextMessageWaitsWhileTheDiskLagsBehind()
+{
+    JournalRig j;
+    j.rig->startSending();
+    j.rig->clock.advanceMilliseconds(51);
+    j.rig->finishMessage();
+    QCOMPARE(j.rig->smtp.sent.size(), 1);
+    QCOMPARE(j.rig->state(1), u"Sent"_s);
+    j.flushDisk();
+    QCOMPARE(j.rig->smtp.sent.size(), 2);
+    j.rig->finishMessage();
+    QCOMPARE(j.rig->smtp.sent.size(), 3);
+}
+
+void TestRunJournal::aRunThatWasStoppedMeanwhileDoesNotGoOn()
+{
+    JournalRig j;
+    j.rig->startSending();
+    j.rig->clock.advanceMilliseconds(51);
+    j.rig->finishMessage();
+    j.stop();
+    j.flushDisk();
+    QCOMPARE(j.rig->smtp.sent.size(), 1);
+    QCOMPARE(j.rig->state(2), u"Waiting"_s);
+}
+
+void TestRunJournal::aFullDiskPausesTheRunAndResumeGoesOn()
+{
+    JournalRig j;
+    const QSignalSpy halted(&j.rig->w.engine, &SendingEngine::runHalted);
+    j.rig->startSending();
+    {
+        const FileSizeLimit full(rlim_t(j.record().size()) + 5);
+        j.rig->finishMessage();
+        QCOMPARE(j.rig->smtp.sent.size(), 1);
+        QCOMPARE(j.rig->w.form.runState(), RunState::Paused);
+        QCOMPARE(halted.size(), 1);
+        const QList<Notice> notices = j.rig->prompts.takeNotices();
+        QCOMPARE(notices.size(), 1);
+        QCOMPARE(notices[0].icon, Icon::Critical);
+        QVERIFY(notices[0].detail.contains(j.records().front()));
+        // What the window knows is more than what found room; nobody is told less.
+        QCOMPARE(j.rig->states(),
+                 QStringList({u"Sent"_s, u"Waiting"_s, u"Waiting"_s, u"Waiting"_s}));
+        QCOMPARE(recordedStates(j).front(), u"Sending..."_s);
+        j.pauseOrResume();
+        QCOMPARE(j.rig->w.form.runState(), RunState::Paused);
+        QCOMPARE(j.rig->prompts.takeNotices().size(), 1);
+        QCOMPARE(recordedStates(j).front(), u"Sending..."_s);
+    }
+    j.pauseOrResume();
+    QCOMPARE(recordedStates(j).front(), u"Sent"_s);
+    j.rig->Timer.tick();
+    j.rig->smtp.raiseReady();
+    QCOMPARE(j.rig->addressesSent(), QStringList({u"a1@example.net"_s, u"a2@example.net"_s}));
+}
+
+void TestRunJournal::aDiskThatFailsPausesTheRun()
+{
+    JournalRig j;
+    j.rig->startSending();
+    j.sync->start();
+    j.sync->finish(tl::unexpected(FileError{u"/runs/a"_s, u"input/output error"_s}));
+    j.rig->finishMessage();
+    QCOMPARE(j.rig->w.form.runState(), RunState::Paused);
+    QCOMPARE(j.rig->prompts.takeNotices().value(0).detail, u"/runs/a: input/output error"_s);
+    j.pauseOrResume();
+    QCOMPARE(recordedStates(j).front(), u"Sent"_s);
+    j.rig->Timer.tick();
+    j.rig->smtp.raiseReady();
+    QCOMPARE(j.rig->smtp.sent.size(), 2);
+}
+
+void TestRunJournal::aFolderThatMayNotBeWrittenLetsNoRunStart()
+{
+    JournalRig j;
+    QVERIFY(QDir().mkpath(j.path(u"Runs"_s)));
+    setMode(j.folder.path(), ReadOnly);
+    setMode(j.path(u"Runs"_s), ReadOnly);
+    {
+        const AsNobody nobody;
+        j.rig->start();
+    }
+    setMode(j.folder.path(), Writable);
+    setMode(j.path(u"Runs"_s), Writable);
+    QCOMPARE(j.rig->w.form.runState(), RunState::Idle);
+    const QList<Notice> notices = j.rig->prompts.takeNotices();
+    QCOMPARE(notices.size(), 1);
+    QVERIFY(notices[0].detail.startsWith(j.path(u"Runs/"_s)));
+    QVERIFY(j.rig->smtp.calls.isEmpty());
+}
+
+void TestRunJournal::aProjectThatAnotherProcessRunsIsRefused()
+{
+    JournalRig j;
+    j.save();
+    j.rig->w.recipients.setState(1, u"Sent"_s);
+    lockElsewhere(j.path());
+    j.rig->start();
+    QCOMPARE(j.rig->w.form.runState(), RunState::Idle);
+    const QList<Notice> notices = j.rig->prompts.takeNotices();
+    QCOMPARE(notices.size(), 1);
+    QCOMPARE(notices[0].text, u"This project is being run by another program: process 4711 on "
+                              "other-pc. It cannot be run twice at the same time."_s);
+    QCOMPARE(notices[0].detail,
+             u"If that program is gone, delete the file %1.lock."_s.arg(j.path()));
+    QCOMPARE(j.rig->state(1), u"Sent"_s);
+    QCOMPARE(j.records(), QStringList());
+    QFile::remove(j.path() + u".lock"_s);
+    j.rig->start();
+    QCOMPARE(j.rig->w.form.runState(), RunState::Waiting);
+}
+
+void TestRunJournal::aPausedProjectThatAnotherProcessRunsIsNotResumedLater()
+{
+    JournalRig j;
+    j.rig->start();
+    j.pauseOrResume();
+    j.save();
+    j.die();
+    lockElsewhere(j.path());
+    j.rig->w.projectCommands.open(j.path());
+    QCOMPARE(j.rig->w.form.runState(), RunState::Paused);
+    QFile::remove(j.path() + u".lock"_s);
+    // It was run meanwhile: what is shown here is not how far that came.
+    j.pauseOrResume();
+    QCOMPARE(j.rig->w.form.runState(), RunState::Paused);
+    QVERIFY(j.rig->prompts.takeNoticeTexts().value(0).contains(u"Open it again"_s));
+    j.rig->w.projectCommands.open(j.path());
+    j.pauseOrResume();
+    QCOMPARE(j.rig->w.form.runState(), RunState::Waiting);
+}
+
+void TestRunJournal::theLockOfAProcessThatIsGoneIsTakenOver()
+{
+    JournalRig j;
+    j.save();
+    constexpr int NoProcess = 4'194'304; // beyond the largest number that Linux gives
+    QByteArray lock = readFile(u"/proc/sys/kernel/hostname"_s);
+    lock = QByteArray::number(NoProcess) + "\nsorvanta\n" + lock.trimmed() + "\n\n\n";
+    writeFile(j.path() + u".lock"_s, lock);
+    j.rig->start();
+    QCOMPARE(j.rig->w.form.runState(), RunState::Waiting);
+}
+
+void TestRunJournal::aProjectInAFolderThatMayNotBeWrittenIsLockedElsewhere()
+{
+    JournalRig j;
+    for (const QString &name : {u"read-only"_s, u"Runs"_s})
+        QVERIFY(QDir().mkpath(j.path(name)));
+    const QString project = j.path(u"read-only/mailing.svk"_s);
+    j.rig->w.projectFile.SaveProject(project, [](bool saved) { QVERIFY(saved); });
+    setMode(j.path(u"read-only"_s), ReadOnly);
+    setMode(j.path(u"Runs"_s), Writable);
+    setMode(j.folder.path(), Writable);
+    {
+        const AsNobody nobody;
+        j.rig->start();
+        QCOMPARE(j.rig->w.form.runState(), RunState::Waiting);
+        QVERIFY(!QFile::exists(project + u".lock"_s));
+        QVERIFY(isLocked(RunFolder(j.folder.path()).standInFor(project)));
+    }
+    setMode(j.path(u"read-only"_s), Writable);
+}
+
+void TestRunJournal::aPausedRunKeepsItsLockAndAStoppedOneDoesNot()
+{
+    JournalRig j;
+    j.save();
+    j.rig->start();
+    QVERIFY(isLocked(j.path()));
+    j.pauseOrResume();
+    j.save();
+    QVERIFY(isLocked(j.path()));
+    j.stop();
+    QVERIFY(!isLocked(j.path()));
+    j.rig->w.projectCommands.open(j.path());
+    QCOMPARE(j.rig->w.form.runState(), RunState::Paused);
+    QVERIFY(isLocked(j.path()));
+    j.journal->close();
+    QVERIFY(!isLocked(j.path()));
+}
+
+void TestRunJournal::theLockFollowsAProjectSavedUnderAnotherName()
+{
+    JournalRig j;
+    j.rig->start();
+    j.pauseOrResume();
+    j.save(u"one.svk"_s);
+    QVERIFY(isLocked(j.path(u"one.svk"_s)));
+    j.save(u"two.svk"_s);
+    QVERIFY(!isLocked(j.path(u"one.svk"_s)));
+    QVERIFY(isLocked(j.path(u"two.svk"_s)));
+}

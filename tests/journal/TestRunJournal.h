@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QObject>
+
+/// What is on the disk at each moment of a run.
+class TestRunJournal : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void startWritesTheProjectAsItStands();
+    void aMessageIsRecordedBeforeItIsHandedOver();
+    void resultsFollowWithWhatTheServerSaid();
+    void rowsOfAGroupWithTheSameReplyShareALine();
+    void resumeWritesTheProjectAnew();
+    void aMessageInFlightAtResumeIsInDoubtUntilItsResult();
+    void aResultThatComesAfterAnotherProjectIsOpenedGoesToItsOwnRun();
+
+    void aRunThatSentNothingLeavesNoRecord();
+    void theRecordOfACompleteRunStaysUntilItsRowsWereSeen();
+    void theRecordOfAStoppedRunStaysUntilTheProjectIsSaved();
+    void theRecordOfAPausedRunGoesWhenTheProjectIsSaved();
+    void theRecordStaysWhenAnotherProjectIsOpened();
+    void anotherStartReplacesTheRecord();
+
+    void theNextMessageWaitsWhileTheDiskLagsBehind();
+    void aRunThatWasStoppedMeanwhileDoesNotGoOn();
+    void aFullDiskPausesTheRunAndResumeGoesOn();
+    void aDiskThatFailsPausesTheRun();
+    void aFolderThatMayNotBeWrittenLetsNoRunStart();
+
+    void aProjectThatAnotherProcessRunsIsRefused();
+    void aPausedProjectThatAnotherProcessRunsIsNotResumedLater();
+    void theLockOfAProcessThatIsGoneIsTakenOver();
+    void aProjectInAFolderThatMayNotBeWrittenIsLockedElsewhere();
+    void aPausedRunKeepsItsLockAndAStoppedOneDoesNot();
+    void theLockFollowsAProjectSavedUnderAnotherName();
+};
