@@ -273,8 +273,10 @@ void RunJournal::adopt(const QString &file, std::shared_ptr<RunLock> lock, bool 
 
 tl::expected<std::shared_ptr<RunLock>, LockRefusal> RunJournal::lockOf(const QString &file) const
 {
-    if (m_file && m_file->path() == file)
-        return m_file->lock();
+    for (const auto &own : {m_file, m_messageFile}) {
+        if (own && own->path() == file)
+            return own->lock();
+    }
     return RunLock::take(file);
 }
 

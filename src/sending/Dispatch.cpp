@@ -27,6 +27,7 @@ void SendingEngine::SMTP_StatusChanged(qint32 Code)
 
 void SendingEngine::sendNext()
 {
+    m_readyWaits = false;
     if (m_inFlight) {
         qCDebug(runTrace, "ready while a message is in flight: ignored");
         return;

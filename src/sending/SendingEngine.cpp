@@ -28,7 +28,7 @@ void SendingEngine::setRecorder(RunRecorder &recorder)
 {
     m_recorder = &recorder;
     recorder.onCaughtUp = [this] {
-        if (std::exchange(m_readyWaits, false))
+        if (m_readyWaits)
             sendNext();
     };
 }

@@ -1,3 +1,4 @@
+#include "TestAppendedFile.h"
 #include "TestCodePage.h"
 #include "TestFiles.h"
 #include "TestHelpPages.h"
@@ -15,7 +16,7 @@ int main(int argc, char **argv)
 {
     if (TestCodePage::runAsSecondProgram(argc, argv))
         return 0;
-    return runTests<TestCodePage, TestLines, TestInputFields, TestNumbers, TestModMain, TestFiles,
-                    TestProgramFolder, TestRegionalFormats, TestServerReply, TestHelpPages,
-                    TestTerminalLine>(argc, argv);
+    return runTests<TestAppendedFile, TestCodePage, TestLines, TestInputFields, TestNumbers,
+                    TestModMain, TestFiles, TestProgramFolder, TestRegionalFormats, TestServerReply,
+                    TestHelpPages, TestTerminalLine>(argc, argv);
 }

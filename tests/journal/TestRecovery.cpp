@@ -263,6 +263,19 @@ void TestRecovery::aPausedRunOfThisWindowIsAskedAboutWhenItsProjectIsOpenedAgain
     QCOMPARE(j.records().size(), 1);
 }
 
+void TestRecovery::aProjectOpenedAgainWhileItsMessageIsInFlightIsAskedAbout()
+{
+    JournalRig j;
+    j.save(u"other.svk"_s);
+    j.save();
+    j.rig->startSending();
+    j.pauseOrResume();
+    j.rig->w.projectCommands.open(j.path(u"other.svk"_s));
+    j.openAnswering(Answer::Continue);
+    QCOMPARE(j.rig->state(1), u"Sending..."_s);
+    QCOMPARE(j.rig->w.engine.nextRecipientIndex(), 2);
+}
+
 void TestRecovery::theControlRowGoesOnWithTheRunAndNotWithoutIt()
 {
     JournalRig j;

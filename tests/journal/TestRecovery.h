@@ -24,6 +24,7 @@ private Q_SLOTS:
     void aRunThatAnotherProcessHasOpenIsNotAskedAbout();
     void theProjectAtTheCommandLineIsAskedAbout();
     void aPausedRunOfThisWindowIsAskedAboutWhenItsProjectIsOpenedAgain();
+    void aProjectOpenedAgainWhileItsMessageIsInFlightIsAskedAbout();
     void theControlRowGoesOnWithTheRunAndNotWithoutIt();
     void aRunContinuedAndKilledAgainIsContinuedAgain();
     void aRecoveredRunCountsAsModified();

@@ -3,10 +3,11 @@
 #include "TestRecipientList.h"
 #include "TestRecipientsFile.h"
 #include "TestStateWords.h"
+#include "TestTotals.h"
 #include "support/RunTests.h"
 
 int main(int argc, char **argv)
 {
     return runTests<TestStateWords, TestRecipientList, TestRecipientCommands, TestRecipientsFile,
-                    TestQueueId>(argc, argv);
+                    TestQueueId, TestTotals>(argc, argv);
 }
