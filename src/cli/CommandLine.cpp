@@ -11,19 +11,26 @@ using Parsed = tl::expected<Command, NoCommand>;
 
 const char Usage[] = R"(Usage: sorvanta-cli COMMAND ...
 
-  send PROJECT [--yes] [--save] [--rest] [--again] [--json]
+  send PROJECT [--continue | --rest | --again] [--yes] [--save] [--report FILE]
+               [--json]
       Sends the project's message to its checked recipients; a project that was
       saved paused goes on where it stood. Ctrl-C pauses after the message in
       flight and saves the project; a second Ctrl-C ends at once.
-        --yes    go on although linked pictures will not travel
-        --save   write rows and states back into the project after the run
-        --rest   leave out the recipients marked "Sent" or "Sending..."
-        --again  send to them again
-        --json   one JSON object a line instead of text
-      A project is always written back when it went on from a pause, when the
-      session failed after a message had been handed over, and after Ctrl-C.
-      Exit status: 0 all sent, 1 some refused, 2 nothing begun, 3 session error,
-      130 paused by Ctrl-C.
+        --continue     go on where a run stood that was paused or that ended
+                       with its program; who is in doubt is left out
+        --rest         leave out the recipients marked "Sent" or "Sending..."
+        --again        send to them again
+        --yes          go on although linked pictures will not travel
+        --save         write rows and states back into the project after the run
+        --report FILE  write what became of every recipient, as a table for
+                       spreadsheets, or as JSON when FILE ends in ".json"
+        --json         one JSON object a line instead of text
+      When a run of the project ended with its program, one of the first three
+      must be said. A project is always written back when it went on from a
+      pause, when the session failed after a message had been handed over, and
+      after Ctrl-C.
+      Exit status: 0 all sent, 1 some refused or in doubt, 2 nothing begun,
+      3 session error, or something could not be written, 130 paused by Ctrl-C.
 
   check PROJECT [--offline]
       Says what a start would refuse or ask, why the run would fail, and what
@@ -95,12 +102,17 @@ tl::expected<void, NoCommand> parse(QCommandLineParser &parser, const QStringLis
     return {};
 }
 
-void addConnectionOptions(QCommandLineParser &parser)
+void addValueOptions(QCommandLineParser &parser, std::initializer_list<const char *> names)
 {
-    for (const char *name : {"password-command", "trace"}) {
+    for (const char *name : names) {
         parser.addOption(
             QCommandLineOption(QString::fromLatin1(name), {}, QStringLiteral("value")));
     }
+}
+
+void addConnectionOptions(QCommandLineParser &parser)
+{
+    addValueOptions(parser, {"password-command", "trace"});
 }
 
 // An option that takes a value; nothing when it is not there.
@@ -110,35 +122,44 @@ std::optional<QString> valueOf(const QCommandLineParser &parser, const char *nam
     return parser.isSet(option) ? std::optional(parser.value(option)) : std::nullopt;
 }
 
+// The same for an option that takes a file.
+std::optional<QString> fileOf(const QCommandLineParser &parser, const char *name)
+{
+    const auto path = valueOf(parser, name);
+    return path ? std::optional(absolute(*path)) : std::nullopt;
+}
+
 ConnectionOptions connectionOf(const QCommandLineParser &parser)
 {
     ConnectionOptions connection;
     connection.passwordCommand = valueOf(parser, "password-command");
-    connection.traceFile = valueOf(parser, "trace");
-    if (connection.traceFile)
-        connection.traceFile = absolute(*connection.traceFile);
+    connection.traceFile = fileOf(parser, "trace");
     return connection;
 }
 
 Parsed parseSend(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    for (const char *name : {"yes", "save", "rest", "again", "json"})
+    for (const char *name : {"yes", "save", "rest", "again", "continue", "json"})
         parser.addOption(QCommandLineOption(QString::fromLatin1(name)));
+    addValueOptions(parser, {"report"});
     addConnectionOptions(parser);
     if (const auto parsed = parse(parser, arguments, 1, 1); !parsed)
         return tl::unexpected(parsed.error());
     const auto has = [&parser](const char *name) {
         return parser.isSet(QString::fromLatin1(name));
     };
-    if (has("rest") && has("again"))
-        return wrongUsage(QStringLiteral("send: --rest and --again exclude each other"));
+    if (int{has("continue")} + int{has("rest")} + int{has("again")} > 1)
+        return wrongUsage(
+            QStringLiteral("send: --continue, --rest and --again exclude each other"));
     return SendOptions{absolute(parser.positionalArguments().front()),
                        has("yes"),
                        has("save"),
                        has("rest"),
                        has("again"),
+                       has("continue"),
                        has("json"),
+                       fileOf(parser, "report"),
                        connectionOf(parser)};
 }
 
@@ -157,10 +178,7 @@ Parsed parseCheck(const QStringList &arguments)
 Parsed parseTest(const QStringList &arguments)
 {
     QCommandLineParser parser;
-    for (const char *name : {"to", "row"}) {
-        parser.addOption(
-            QCommandLineOption(QString::fromLatin1(name), {}, QStringLiteral("value")));
-    }
+    addValueOptions(parser, {"to", "row"});
     addConnectionOptions(parser);
     if (const auto parsed = parse(parser, arguments, 1, 1); !parsed)
         return tl::unexpected(parsed.error());

@@ -25,7 +25,9 @@ struct SendOptions
     bool save = false;  ///< write rows and states back after the run
     bool rest = false;  ///< leave out the rows that were sent or are in doubt
     bool again = false; ///< send to them again
+    bool goOn = false;  ///< with the run that stands still: paused, or left behind
     bool json = false;
+    std::optional<QString> report; ///< the file that takes the report of the run
     ConnectionOptions connection = {};
 };
 

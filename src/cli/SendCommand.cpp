@@ -1,5 +1,7 @@
 #include "cli/SendCommand.h"
 
+#include "recipients/TotalsText.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -21,12 +23,14 @@ SendCommand::SendCommand(const SendOptions &options, const CliSurroundings &from
       m_AppLog(from.programFolder, from.clock, from.formats, from.codePage),
       m_workspace(from.forWorkspace(m_prompts, m_AppLog)),
       m_journal(from.forJournal(m_workspace, m_prompts, m_AppLog)),
-      m_recovery(m_journal, m_workspace.projectCommands, m_workspace.form, m_prompts)
+      m_recovery(m_journal, m_workspace.projectCommands, m_workspace.form, m_prompts),
+      m_reports(m_workspace.form, m_workspace.recipients, from.clock, m_prompts, m_AppLog)
 {
     const SendingEngine &engine = m_workspace.engine;
     connect(&engine, &SendingEngine::rowDone, this, &SendCommand::showRow);
-    connect(&engine, &SendingEngine::runEnded, this, [this] { endRun(codeOfEndedRun()); });
-    connect(&engine, &SendingEngine::runFailed, this, [this] { endRun(ExitCode::SessionError); });
+    connect(&engine, &SendingEngine::runEnded, this, [this] { endRun(Ending::Over); });
+    connect(&engine, &SendingEngine::runFailed, this, [this] { endRun(Ending::Failed); });
+    connect(&engine, &SendingEngine::runHalted, this, [this] { endRun(Ending::Halted); });
     connect(&m_workspace.form, &Form::changed, this, [this](Control control) {
         if (control == Control::lblTimer || control == Control::lblTrascorso)
             showProgress();
@@ -46,7 +50,12 @@ void SendCommand::start()
         finish(ExitCode::Refused);
         return;
     case LoadOutcome::Loaded:
-        startStopped();
+        if (m_options.goOn) {
+            m_output.message(QStringLiteral("There is no run to continue."));
+            finish(ExitCode::Refused);
+        } else {
+            startStopped();
+        }
         return;
     case LoadOutcome::LoadedPaused:
         m_resumed = true;
@@ -141,44 +150,78 @@ void SendCommand::showProgress()
                                    form.text(Control::lblRimanente)));
 }
 
-ExitCode SendCommand::codeOfEndedRun() const
-{
-    // Rows refused before a pause count too.
-    const auto &rows = m_workspace.recipients.rows();
-    const bool anyRefused =
-        m_refused > 0 || std::any_of(rows.begin(), rows.end(), [](const Recipient &row) {
-            return row.checked && stateOfWord(row.state) == RowState::Error;
-        });
-    return anyRefused ? ExitCode::SomeRefused : ExitCode::Success;
-}
-
-void SendCommand::endRun(ExitCode code)
+void SendCommand::endRun(Ending ending)
 {
     if (!m_running || hasEnded())
         return;
     m_running = false;
     const auto &rows = m_workspace.recipients.rows();
-    const bool failed = code == ExitCode::SessionError;
+    const bool failed = ending == Ending::Failed;
     // Who broke off in the middle must not begin at the first recipient again.
     const bool anyHandedOver = std::any_of(rows.begin(), rows.end(), mayHaveTheMessage);
-    if (failed && m_interrupted) {
-        // What the interruption saved is the better record: it can go on.
-        summarize(code);
-        finish(code);
-    } else if (m_options.save || m_resumed || m_interrupted || (failed && anyHandedOver)) {
-        writeBack(code);
-    } else {
-        summarize(code);
-        finish(code);
-    }
+    const bool isChanged = m_options.save || m_resumed || m_interrupted ||
+                           ending == Ending::Halted || (failed && anyHandedOver);
+    // What an interruption saved is the better record of a failure: it can go on.
+    if (isChanged && !(failed && m_interrupted))
+        save([this, ending] { conclude(ending); });
+    else
+        conclude(ending);
 }
 
-void SendCommand::writeBack(ExitCode code)
+void SendCommand::save(std::function<void()> then)
 {
-    m_workspace.projectFile.SaveProject(m_options.project, [this, code](bool saved) {
-        summarize(code);
-        finish(saved ? code : ExitCode::SessionError);
-    });
+    m_workspace.projectFile.SaveProject(m_options.project,
+                                        [this, then = std::move(then)](bool saved) {
+                                            m_unsaved = !saved;
+                                            then();
+                                        });
+}
+
+void SendCommand::conclude(Ending ending)
+{
+    ExitCode code = m_unsaved ? ExitCode::SessionError : codeOf(ending);
+    const bool reported = !m_options.report || writeReport();
+    if (!reported && code != ExitCode::Interrupted)
+        code = ExitCode::SessionError;
+    nameThoseInDoubt();
+    summarize(ending, code);
+    finish(code);
+}
+
+ExitCode SendCommand::codeOf(Ending ending) const
+{
+    switch (ending) {
+    case Ending::Over:
+        break;
+    case Ending::Failed:
+    case Ending::Halted:
+        return ExitCode::SessionError;
+    case Ending::Interrupted:
+        return ExitCode::Interrupted;
+    }
+    // All rows count, also those before a pause; and the copy for the control address, which is
+    // none of them any more.
+    const Totals meant = totalsOfChecked(m_workspace.recipients.rows());
+    return meant.sent == meant.rows && m_refused == 0 ? ExitCode::Success : ExitCode::SomeRefused;
+}
+
+bool SendCommand::writeReport()
+{
+    const auto written = m_reports.write(*m_options.report);
+    if (!written)
+        m_output.message(written.error().toText());
+    return written.has_value();
+}
+
+// Also who is in flight: nobody waits for that answer any more.
+void SendCommand::nameThoseInDoubt()
+{
+    for (const Recipient &row : m_workspace.recipients.rows()) {
+        if (row.checked && stateOfWord(row.state) == RowState::Sending) {
+            m_output.message(
+                QStringLiteral("In doubt: %1  %2 <%3>").arg(row.number, row.name, row.address));
+        }
+    }
 }
 
 void SendCommand::interrupt()
@@ -191,40 +234,48 @@ void SendCommand::interrupt()
     }
     if (m_interrupted) {
         m_workspace.projectFile.finishWaitingSave();
-        finish(ExitCode::Interrupted);
+        conclude(Ending::Interrupted);
         return;
     }
     m_interrupted = true;
     m_output.message(QStringLiteral("Pausing after the message in flight; Ctrl-C again ends at "
                                     "once."));
     m_workspace.engine.cmdPausa_Click();
-    m_workspace.projectFile.SaveProject(m_options.project, [this](bool saved) {
+    save([this] {
         // The message was perhaps the last one: the event that ends the run comes first.
-        m_prompts.whenQuiet([this, saved] {
-            if (hasEnded())
-                return;
-            summarize(ExitCode::Interrupted);
-            finish(saved ? ExitCode::Interrupted : ExitCode::SessionError);
+        m_prompts.whenQuiet([this] {
+            if (!hasEnded())
+                conclude(Ending::Interrupted);
         });
     });
 }
 
-void SendCommand::summarize(ExitCode code)
+void SendCommand::summarize(Ending ending, ExitCode code)
 {
+    Totals run = totalsOfChecked(m_workspace.recipients.rows());
+    // Of these rows those before a pause do not count, and the copy for the control address does.
+    run.rows = m_total;
+    run.sent = m_sent;
+    run.refused = m_refused;
     if (m_options.json) {
-        m_output.result(jsonLine({{QStringLiteral("total"), m_total},
-                                  {QStringLiteral("sent"), m_sent},
-                                  {QStringLiteral("refused"), m_refused},
+        m_output.result(jsonLine({{QStringLiteral("total"), run.rows},
+                                  {QStringLiteral("sent"), run.sent},
+                                  {QStringLiteral("refused"), run.refused},
+                                  {QStringLiteral("inDoubt"), run.inDoubt},
+                                  {QStringLiteral("left"), run.waiting},
                                   {QStringLiteral("exit"), static_cast<int>(code)}}));
         return;
     }
-    QString line = QStringLiteral("%1 of %2 sent").arg(m_sent).arg(m_total);
-    if (m_refused > 0)
-        line += QStringLiteral(", %1 refused").arg(m_refused);
-    if (code == ExitCode::SessionError)
+    const TotalsText text(Language::English);
+    QString line = text.soFar(run);
+    if (run.waiting > 0)
+        line += QLatin1String(", ") + text.left(run);
+    if (ending == Ending::Failed)
         line += QStringLiteral("; the session failed");
-    else if (code == ExitCode::Interrupted)
-        line += QStringLiteral("; paused, the project is saved: %1").arg(m_options.project);
+    else if (ending != Ending::Over)
+        line += m_unsaved
+                    ? QStringLiteral("; paused")
+                    : QStringLiteral("; paused, the project is saved: %1").arg(m_options.project);
     m_output.result(line);
 }
 

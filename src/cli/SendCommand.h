@@ -5,7 +5,10 @@
 #include "cli/CommandLine.h"
 #include "cli/LongCommand.h"
 #include "journal/Recovery.h"
+#include "journal/ReportCommands.h"
 #include "project/Workspace.h"
+
+#include <functional>
 
 /// `send`: a run without a window, from Start or, for a project that was saved paused, from Resume.
 class SendCommand : public LongCommand
@@ -22,16 +25,27 @@ public:
     void interrupt() override;
 
 private:
+    /// Why no more is sent.
+    enum class Ending {
+        Over,        ///< no row was left
+        Failed,      ///< the session, and with it the run
+        Interrupted, ///< paused by Ctrl-C
+        Halted,      ///< paused by itself
+    };
+
     void startStopped();
     [[nodiscard]] bool leaveOutThoseSent();
     void begun();
     void showRow(int position);
     void showProgress();
-    void endRun(ExitCode code);
-    void writeBack(ExitCode code);
-    void summarize(ExitCode code);
+    void endRun(Ending ending);
+    void save(std::function<void()> then);
+    void conclude(Ending ending);
+    [[nodiscard]] ExitCode codeOf(Ending ending) const;
+    [[nodiscard]] bool writeReport();
+    void nameThoseInDoubt();
+    void summarize(Ending ending, ExitCode code);
     void finish(ExitCode code);
-    [[nodiscard]] ExitCode codeOfEndedRun() const;
 
     SendOptions m_options;
     Output &m_output;
@@ -40,9 +54,11 @@ private:
     Workspace m_workspace;
     RunJournal m_journal;
     Recovery m_recovery;
+    ReportCommands m_reports;
     bool m_resumed = false;
     bool m_running = false;
     bool m_interrupted = false;
+    bool m_unsaved = false; ///< the project could not be written back
     int m_total = 0;
     int m_sent = 0;
     int m_refused = 0;

@@ -65,7 +65,10 @@ OutcomeWord wordFor(const Attempt &attempt)
 
 Report::Report(ReportSubject subject, std::vector<Recipient> rows)
     : m_subject(std::move(subject)), m_rows(std::move(rows))
-{}
+{
+    // Who reads it may be elsewhere, or in another season: "local" would mean nothing.
+    m_subject.made = m_subject.made.toOffsetFromUtc(m_subject.made.offsetFromUtc());
+}
 
 QString Report::timeOf(const Attempt &attempt) const
 {

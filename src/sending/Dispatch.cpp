@@ -4,6 +4,7 @@
 #include "sending/SendingEngine.h"
 
 #include "base/Numbers.h"
+#include "recipients/TotalsText.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
@@ -70,9 +71,16 @@ void SendingEngine::endPacket()
 
 void SendingEngine::endRunOfItself(const QString &text)
 {
-    m_AppLog.WriteMessage(QStringLiteral("Sending ended without problems"));
+    const Totals meant = totalsOfChecked(m_recipients.rows());
+    m_AppLog.WriteMessage(meant.isAccountedFor() ? QStringLiteral("Sending ended without problems")
+                                                 : QStringLiteral("No message is left to send"));
     StopSending();
-    m_prompts.notice({Icon::Information, Texts::tr("Sending"), text});
+    // Of a run that went on after it was broken off, some may be in doubt.
+    m_prompts.notice({Icon::Information, Texts::tr("Sending"),
+                      meant.isAccountedFor()
+                          ? text
+                          : Texts::tr("No message is left to send. Not accounted for: %1.")
+                                .arg(TotalsText(m_form.language()).unaccountedFor(meant))});
     Q_EMIT runEnded();
 }
 

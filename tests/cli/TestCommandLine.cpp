@@ -26,6 +26,9 @@ void TestCommandLine::wrongUsage_data()
     row("send a.svk b.svk");
     row("send p.svk --fast");
     row("send p.svk --rest --again");
+    row("send p.svk --continue --rest");
+    row("send p.svk --continue --again");
+    row("send p.svk --report");
     row("check");
     row("check a.svk b.svk");
     row("compose p.svk");
@@ -84,7 +87,19 @@ void TestCommandLine::sendTakesItsOptions()
     QVERIFY(options != nullptr);
     QCOMPARE(options->project, QStringLiteral("/p.svk"));
     QVERIFY(options->yes && options->json && options->rest && options->save);
-    QVERIFY(!options->again);
+    QVERIFY(!options->again && !options->goOn && !options->report);
+}
+
+void TestCommandLine::sendTakesAReport()
+{
+    const auto command =
+        parsed({QStringLiteral("send"), QStringLiteral("/p.svk"), QStringLiteral("--continue"),
+                QStringLiteral("--report"), QStringLiteral("my report.csv")});
+    QVERIFY(command.has_value());
+    const auto &options = std::get<SendOptions>(*command);
+    QVERIFY(options.goOn);
+    QCOMPARE(options.report.value_or(QString()),
+             QDir::current().filePath(QStringLiteral("my report.csv")));
 }
 
 void TestCommandLine::pathsComeOutAbsolute()

@@ -12,6 +12,7 @@ private Q_SLOTS:
     void helpAndVersionAreNoFailure_data();
     void helpAndVersionAreNoFailure();
     void sendTakesItsOptions();
+    void sendTakesAReport();
     void pathsComeOutAbsolute();
     void composeNeedsARow();
     void aSettingsValueMayBeginWithADash();

@@ -28,9 +28,9 @@ public:
         settle();
     }
     /// Starts, and hands the first message over.
-    void startSending()
+    void startSending(SendOptions options = {})
     {
-        start();
+        start(std::move(options));
         Timer.tick();
         smtp.raiseReady();
     }
@@ -74,6 +74,26 @@ public:
         return all;
     }
 
+    [[nodiscard]] QString summary() const { return results.lines().constLast(); }
+    /// What a report gives after that label, or of the row with that number.
+    [[nodiscard]] QString reported(const QString &beginning) const
+    {
+        const QStringList lines =
+            QString::fromUtf8(WorkspaceRig::contentOf(report)).split(QStringLiteral("\r\n"));
+        for (const QString &line : lines) {
+            if (line.startsWith(beginning + u';'))
+                return line.sliced(beginning.size() + 1);
+        }
+        return {};
+    }
+    [[nodiscard]] SendOptions withReport() const
+    {
+        SendOptions options;
+        options.report = report;
+        return options;
+    }
+
+    const QString report = author.folder.filePath(QStringLiteral("report.csv"));
     std::optional<SendCommand> command;
     std::optional<ExitCode> exitCode;
 };
@@ -346,4 +366,192 @@ void TestSendCommand::aFailureAfterCtrlCKeepsThePause()
     QVERIFY(rig.saved().paused);
     QCOMPARE(rig.savedStates(), (QStringList{Sending, Waiting, Waiting}));
     QCOMPARE(rig.saved().nextRecipientIndex, 2);
+}
+
+void TestSendCommand::whoIsInDoubtAfterARunThatWentOnIsNamed()
+{
+    SendRig rig;
+    rig.saveProject();
+    rig.startSending();
+    rig.command->interrupt();
+    rig.command->interrupt();
+    QVERIFY(rig.summary().startsWith(QStringLiteral("0 of 3 sent, 1 in doubt, 2 left; paused")));
+    rig.smtp.raiseDone(false);
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::SomeRefused);
+    QCOMPARE(rig.summary(), QStringLiteral("2 of 2 sent, 1 in doubt"));
+    QCOMPARE(rig.messages.lines().constLast(),
+             QStringLiteral("In doubt: 1  Name 1 <a1@example.net>"));
+    QVERIFY(!rig.messages.text().contains(QStringLiteral("ended.")));
+}
+
+void TestSendCommand::aRowThatARunWentPastIsNotSaidToBeSent()
+{
+    SendRig rig;
+    rig.author.w.engine.setNextRecipientIndex(2);
+    rig.author.w.engine.EnterPausedState();
+    rig.saveProject();
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::SomeRefused);
+    QCOMPARE(rig.summary(), QStringLiteral("2 of 2 sent, 1 left"));
+}
+
+void TestSendCommand::aFailedSessionSaysWhoIsLeft()
+{
+    SendRig rig;
+    rig.saveProject();
+    rig.startSending();
+    rig.finishMessage();
+    rig.smtp.raiseError(10, QStringLiteral("no answer"));
+    QCOMPARE(rig.summary(), QStringLiteral("1 of 3 sent, 1 in doubt, 1 left; the session failed"));
+    QCOMPARE(rig.messages.lines().constLast(),
+             QStringLiteral("In doubt: 2  Name 2 <a2@example.net>"));
+}
+
+void TestSendCommand::aPauseThatCannotBeSavedIsAFailure()
+{
+    SendRig rig;
+    rig.saveProject();
+    rig.startSending();
+    rig.command->interrupt();
+    QVERIFY(QFile::remove(rig.path));
+    QVERIFY(QDir().mkdir(rig.path));
+    rig.finishMessage();
+    QCOMPARE(rig.exitCode, ExitCode::SessionError);
+    QCOMPARE(rig.summary(), QStringLiteral("1 of 3 sent, 2 left; paused"));
+}
+
+void TestSendCommand::theSummaryForProgramsHasThoseInDoubt()
+{
+    SendRig rig;
+    rig.saveProject();
+    SendOptions options;
+    options.json = true;
+    rig.startSending(options);
+    rig.finishMessage();
+    rig.smtp.raiseError(10, QStringLiteral("no answer"));
+    QCOMPARE(rig.summary(),
+             QStringLiteral(R"({"exit":3,"inDoubt":1,"left":1,"refused":0,"sent":1,"total":3})"));
+}
+
+void TestSendCommand::continueNeedsARunThatStandsStill()
+{
+    SendRig rig;
+    rig.saveProject();
+    SendOptions options;
+    options.goOn = true;
+    rig.run(options);
+    QCOMPARE(rig.exitCode, ExitCode::Refused);
+    QCOMPARE(rig.messages.lines(), QStringList{QStringLiteral("There is no run to continue.")});
+    QVERIFY(rig.smtp.calls.isEmpty());
+}
+
+void TestSendCommand::continueGoesOnWithAPausedProject()
+{
+    SendRig rig;
+    rig.saveProject();
+    rig.startSending();
+    rig.command->interrupt();
+    rig.finishMessage();
+    SendOptions options;
+    options.goOn = true;
+    rig.run(options);
+    QCOMPARE(rig.exitCode, ExitCode::Success);
+    QCOMPARE(rig.savedStates(), (QStringList{Sent, Sent, Sent}));
+    QCOMPARE(rig.smtp.sent.size(), 3);
+}
+
+void TestSendCommand::theReportIsWrittenWhenTheRunIsOver()
+{
+    SendRig rig;
+    rig.author.w.form.setText(Control::txtControl, QStringLiteral("me@example.org"));
+    rig.saveProject();
+    rig.smtp.accepts = [](const FakeSmtp::SentMessage &message) { return !isFirst(message); };
+    rig.run(rig.withReport());
+    QCOMPARE(rig.exitCode, ExitCode::SomeRefused);
+    QCOMPARE(rig.reported(QStringLiteral("Report of the project")), QStringLiteral("mailing.svk"));
+    QCOMPARE(rig.reported(QStringLiteral("Recipients")), QStringLiteral("3"));
+    QCOMPARE(rig.reported(QStringLiteral("Sent")), QStringLiteral("2"));
+    QCOMPARE(rig.reported(QStringLiteral("Refused")), QStringLiteral("1"));
+    QCOMPARE(rig.reported(QStringLiteral("Result")), QStringLiteral("Complete"));
+    QVERIFY(rig.reported(QStringLiteral("1"))
+                .startsWith(QStringLiteral(
+                    "Name 1;a1@example.net;yes;Error!;refused;2026-11-21T09:00:00+01:00;1;")));
+    QVERIFY(rig.reported(QStringLiteral("4")).isEmpty());
+    // Without --save nothing else is written.
+    QCOMPARE(rig.savedStates(), (QStringList{Waiting, Waiting, Waiting}));
+}
+
+void TestSendCommand::theReportIsWrittenWhenTheSessionFails()
+{
+    SendRig rig;
+    rig.saveProject();
+    rig.startSending(rig.withReport());
+    rig.finishMessage();
+    rig.smtp.raiseError(10, QStringLiteral("no answer"));
+    QCOMPARE(rig.exitCode, ExitCode::SessionError);
+    QCOMPARE(rig.reported(QStringLiteral("Result")),
+             QStringLiteral("Not complete: 1 in doubt, 1 left"));
+    QVERIFY(rig.reported(QStringLiteral("2"))
+                .startsWith(QStringLiteral("Name 2;a2@example.net;yes;Sending...;in doubt;")));
+}
+
+void TestSendCommand::theReportOfAPauseHasTheControlCopy()
+{
+    SendRig rig;
+    rig.author.w.form.setText(Control::txtControl, QStringLiteral("me@example.org"));
+    rig.saveProject();
+    rig.startSending(rig.withReport());
+    rig.command->interrupt();
+    rig.finishMessage();
+    QCOMPARE(rig.exitCode, ExitCode::Interrupted);
+    QCOMPARE(rig.reported(QStringLiteral("Recipients")), QStringLiteral("4"));
+    QCOMPARE(rig.reported(QStringLiteral("Result")), QStringLiteral("Not complete: 3 left"));
+    QVERIFY(rig.reported(QStringLiteral("4")).contains(QStringLiteral(";me@example.org;")));
+}
+
+void TestSendCommand::theReportIsWrittenWhenTheSecondCtrlCEndsAtOnce()
+{
+    SendRig rig;
+    rig.saveProject();
+    rig.startSending(rig.withReport());
+    rig.command->interrupt();
+    rig.command->interrupt();
+    QCOMPARE(rig.exitCode, ExitCode::Interrupted);
+    QCOMPARE(rig.reported(QStringLiteral("Result")),
+             QStringLiteral("Not complete: 1 in doubt, 2 left"));
+}
+
+void TestSendCommand::aReportThatCannotBeWrittenIsSaid()
+{
+    SendRig rig;
+    rig.saveProject();
+    SendOptions options;
+    options.report = rig.author.folder.filePath(QStringLiteral("missing/report.csv"));
+    rig.run(options);
+    QCOMPARE(rig.exitCode, ExitCode::SessionError);
+    QVERIFY(rig.messages.lines().constLast().startsWith(*options.report + QStringLiteral(": ")));
+    QCOMPARE(rig.summary(), QStringLiteral("3 of 3 sent"));
+}
+
+void TestSendCommand::aReportThatCannotBeWrittenDoesNotHideThePause()
+{
+    SendRig rig;
+    rig.saveProject();
+    SendOptions options;
+    options.report = rig.author.folder.filePath(QStringLiteral("missing/report.csv"));
+    rig.startSending(options);
+    rig.command->interrupt();
+    rig.finishMessage();
+    QCOMPARE(rig.exitCode, ExitCode::Interrupted);
+}
+
+void TestSendCommand::aRunThatIsNotBegunHasNoReport()
+{
+    SendRig rig;
+    rig.author.w.form.setText(Control::txtOggetto, {});
+    rig.saveProject();
+    rig.run(rig.withReport());
+    QCOMPARE(rig.exitCode, ExitCode::Refused);
+    QVERIFY(!QFile::exists(rig.report));
 }

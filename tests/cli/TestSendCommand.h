@@ -29,4 +29,18 @@ private Q_SLOTS:
     void aSecondCtrlCEndsAtOnceWithTheMessageInDoubt();
     void aPausedProjectGoesOnAndIsWrittenBack();
     void aFailureAfterCtrlCKeepsThePause();
+    void whoIsInDoubtAfterARunThatWentOnIsNamed();
+    void aRowThatARunWentPastIsNotSaidToBeSent();
+    void aFailedSessionSaysWhoIsLeft();
+    void aPauseThatCannotBeSavedIsAFailure();
+    void theSummaryForProgramsHasThoseInDoubt();
+    void continueNeedsARunThatStandsStill();
+    void continueGoesOnWithAPausedProject();
+    void theReportIsWrittenWhenTheRunIsOver();
+    void theReportIsWrittenWhenTheSessionFails();
+    void theReportOfAPauseHasTheControlCopy();
+    void theReportIsWrittenWhenTheSecondCtrlCEndsAtOnce();
+    void aReportThatCannotBeWrittenIsSaid();
+    void aReportThatCannotBeWrittenDoesNotHideThePause();
+    void aRunThatIsNotBegunHasNoReport();
 };

@@ -148,6 +148,7 @@ class Server:
         self.commands = Counter()
         self.failures = {}
         self.refused_addresses = {}
+        self.acceptance = "250 2.0.0 Taken as {}"
         self.on_command = lambda number: None
         self._count = 0
         self._dialogues = []
@@ -244,7 +245,7 @@ class Server:
                 dialogue.number, envelope.mail_from, envelope.rcpt_tos, envelope.original_content
             )
         )
-        return f"250 2.0.0 Taken as {len(self.received)}"
+        return self.acceptance.format(len(self.received))
 
     def recipients(self):
         """Everybody who got a message, once for each."""

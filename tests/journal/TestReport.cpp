@@ -303,6 +303,13 @@ void TestReport::timesHaveTheOffsetOfTheReport()
     QCOMPARE(firstOf(readJson(report)).value("time"_L1), u"2026-11-21T13:30:00+05:30"_s);
 }
 
+void TestReport::localTimesAreToldWithTheirOffset()
+{
+    ReportSubject local = subject();
+    local.made = QDateTime::fromMSecsSinceEpoch(Morning, Qt::LocalTime);
+    QCOMPARE(ReadReport(Report(local, {})).head(u"Made"_s), u"2026-11-21T09:00:00+01:00"_s);
+}
+
 void TestReport::awkwardTextsAreReadBack()
 {
     const quint32 seed = QRandomGenerator::global()->generate();

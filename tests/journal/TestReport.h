@@ -20,6 +20,7 @@ private Q_SLOTS:
     void outcomes();
     void lastOutcomeStaysWhenTheStateIsOfALaterRun();
     void timesHaveTheOffsetOfTheReport();
+    void localTimesAreToldWithTheirOffset();
     void awkwardTextsAreReadBack();
     void nothingIsTakenForAFormula_data();
     void nothingIsTakenForAFormula();
