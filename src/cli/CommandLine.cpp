@@ -26,9 +26,9 @@ const char Usage[] = R"(Usage: sorvanta-cli COMMAND ...
                        spreadsheets, or as JSON when FILE ends in ".json"
         --json         one JSON object a line instead of text
       When a run of the project ended with its program, one of the first three
-      must be said. A project is always written back when it went on from a
-      pause, when the session failed after a message had been handed over, and
-      after Ctrl-C.
+      must be said. A project is always written back after that, when it went on
+      from a pause, when the session failed after a message had been handed over,
+      and after Ctrl-C.
       Exit status: 0 all sent, 1 some refused or in doubt, 2 nothing begun,
       3 session error, or something could not be written, 130 paused by Ctrl-C.
 

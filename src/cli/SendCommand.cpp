@@ -44,6 +44,10 @@ SendCommand::~SendCommand()
 
 void SendCommand::start()
 {
+    if (const auto left = m_recovery.leftRunOf(m_options.project); left && !m_options.again) {
+        startAfter(*left);
+        return;
+    }
     switch (m_workspace.projectCommands.open(m_options.project)) {
     case LoadOutcome::Refused:
     case LoadOutcome::LoadedInPart:
@@ -58,11 +62,49 @@ void SendCommand::start()
         }
         return;
     case LoadOutcome::LoadedPaused:
-        m_resumed = true;
-        m_workspace.engine.cmdPausa_Click();
-        begun();
+        resume();
         return;
     }
+}
+
+// The project's file knows nothing of such a run: what became of it is written there afterwards.
+void SendCommand::startAfter(const LeftRun &left)
+{
+    const Totals totals = left.record.totals();
+    const bool isUnfinished = totals.waiting > 0;
+    if (m_options.goOn && isUnfinished) {
+        m_recovery.continueRun(left);
+        resume();
+    } else if (m_options.goOn) {
+        m_recovery.openAsItIs(left);
+        m_total = totals.rows;
+        m_sent = totals.sent;
+        m_refused = totals.refused;
+        save([this] { conclude(Ending::Over); });
+    } else if (m_options.rest) {
+        m_recovery.openAsItIs(left);
+        m_isWrittenBack = true;
+        startStopped();
+    } else {
+        m_output.message(
+            (isUnfinished
+                 ? QStringLiteral("A run of this project did not finish: %1.\n"
+                                  "Say --continue to go on where it stood, without those in "
+                                  "doubt; ")
+                 : QStringLiteral("What became of a run of this project was not saved: %1.\n"
+                                  "Say --continue to write it into the project; "))
+                .arg(Recovery::summaryOf(left.record, Language::English)) +
+            QStringLiteral("--rest to start anew with those who certainly do not have the "
+                           "message; or --again to forget that run and send to everybody."));
+        finish(ExitCode::Refused);
+    }
+}
+
+void SendCommand::resume()
+{
+    m_isWrittenBack = true;
+    m_workspace.engine.cmdPausa_Click();
+    begun();
 }
 
 void SendCommand::startStopped()
@@ -79,7 +121,10 @@ void SendCommand::startStopped()
     }
     if (m_options.rest && !leaveOutThoseSent()) {
         m_output.message(QStringLiteral("No recipient is left to send to."));
-        finish(ExitCode::Success);
+        if (m_isWrittenBack)
+            save([this] { finish(m_unsaved ? ExitCode::SessionError : ExitCode::Success); });
+        else
+            finish(ExitCode::Success);
         return;
     }
     m_workspace.engine.cmdAvvio_Click();
@@ -159,7 +204,7 @@ void SendCommand::endRun(Ending ending)
     const bool failed = ending == Ending::Failed;
     // Who broke off in the middle must not begin at the first recipient again.
     const bool anyHandedOver = std::any_of(rows.begin(), rows.end(), mayHaveTheMessage);
-    const bool isChanged = m_options.save || m_resumed || m_interrupted ||
+    const bool isChanged = m_options.save || m_isWrittenBack || m_interrupted ||
                            ending == Ending::Halted || (failed && anyHandedOver);
     // What an interruption saved is the better record of a failure: it can go on.
     if (isChanged && !(failed && m_interrupted))
@@ -185,6 +230,7 @@ void SendCommand::conclude(Ending ending)
         code = ExitCode::SessionError;
     nameThoseInDoubt();
     summarize(ending, code);
+    m_journal.rowsSeen();
     finish(code);
 }
 
@@ -266,10 +312,7 @@ void SendCommand::summarize(Ending ending, ExitCode code)
                                   {QStringLiteral("exit"), static_cast<int>(code)}}));
         return;
     }
-    const TotalsText text(Language::English);
-    QString line = text.soFar(run);
-    if (run.waiting > 0)
-        line += QLatin1String(", ") + text.left(run);
+    QString line = TotalsText(Language::English).whole(run);
     if (ending == Ending::Failed)
         line += QStringLiteral("; the session failed");
     else if (ending != Ending::Over)

@@ -33,7 +33,9 @@ private:
         Halted,      ///< paused by itself
     };
 
+    void startAfter(const LeftRun &left);
     void startStopped();
+    void resume();
     [[nodiscard]] bool leaveOutThoseSent();
     void begun();
     void showRow(int position);
@@ -55,7 +57,7 @@ private:
     RunJournal m_journal;
     Recovery m_recovery;
     ReportCommands m_reports;
-    bool m_resumed = false;
+    bool m_isWrittenBack = false; ///< whatever the options say
     bool m_running = false;
     bool m_interrupted = false;
     bool m_unsaved = false; ///< the project could not be written back

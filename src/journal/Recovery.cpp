@@ -101,12 +101,7 @@ void Recovery::ask(const LeftRun &run, std::function<void()> onForgotten)
 
 QString Recovery::summaryOf(const RunRecord &record, Language language)
 {
-    const Totals totals = record.totals();
-    const TotalsText text(language);
-    QString summary = text.soFar(totals);
-    if (totals.waiting > 0)
-        summary += QLatin1String(", ") + text.left(totals);
-    return summary;
+    return TotalsText(language).whole(record.totals());
 }
 
 void Recovery::continueRun(const LeftRun &run)

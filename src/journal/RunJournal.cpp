@@ -211,15 +211,9 @@ void RunJournal::over()
     }
 }
 
-bool RunJournal::everybodyIsAccountedFor() const
-{
-    const Totals totals = totalsOfChecked(m_recipients.rows());
-    return totals.waiting == 0 && totals.inDoubt == 0;
-}
-
 void RunJournal::rowsSeen()
 {
-    if (m_isOver && everybodyIsAccountedFor())
+    if (m_isOver && totalsOfChecked(m_recipients.rows()).isAccountedFor())
         discard();
 }
 

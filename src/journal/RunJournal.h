@@ -78,7 +78,6 @@ private:
     void situationChanged();
     void letGo();
     void discard();
-    [[nodiscard]] bool everybodyIsAccountedFor() const;
     void report(const FileError &error, const QString &consequence);
 
     const Form &m_form;

@@ -34,6 +34,14 @@ QString TotalsText::left(const Totals &totals) const
     return tr("%1 left", "", totals.waiting).arg(number(totals.waiting));
 }
 
+QString TotalsText::whole(const Totals &totals) const
+{
+    QString text = soFar(totals);
+    if (totals.waiting > 0)
+        text += QLatin1String(", ") + left(totals);
+    return text;
+}
+
 QString TotalsText::unaccountedFor(const Totals &totals) const
 {
     QStringList pieces;

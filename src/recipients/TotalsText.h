@@ -20,6 +20,8 @@ public:
     [[nodiscard]] QString atTheEnd(const Totals &totals) const;
     /// "867 left"
     [[nodiscard]] QString left(const Totals &totals) const;
+    /// "578 of 1,450 sent, 3 refused, 2 in doubt, 867 left": of a run, wherever it stands.
+    [[nodiscard]] QString whole(const Totals &totals) const;
     /// "2 in doubt, 867 left": those of whom nobody can say yet that they got the message, or that
     /// they did not; empty when there are none.
     [[nodiscard]] QString unaccountedFor(const Totals &totals) const;

@@ -2,6 +2,7 @@
 
 #include "CliRig.h"
 #include "cli/SendCommand.h"
+#include "support/FileSizeLimit.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -74,6 +75,31 @@ public:
         return all;
     }
 
+    /// The program is gone, in the middle of whatever it did.
+    void die()
+    {
+        command.reset();
+        if (smtp.messageInFlight())
+            smtp.raiseDone(false);
+    }
+    /// A run that died with the first row sent, the second in flight and the third waiting.
+    void leaveRunBehind()
+    {
+        saveProject();
+        startSending();
+        finishMessage();
+        die();
+    }
+    [[nodiscard]] QStringList records() const
+    {
+        return QDir(author.folder.filePath(QStringLiteral("Runs")))
+            .entryList({QStringLiteral("*.run")});
+    }
+    [[nodiscard]] qint64 sizeOfRecord() const
+    {
+        return QFileInfo(author.folder.filePath(QStringLiteral("Runs/") + records().constFirst()))
+            .size();
+    }
     [[nodiscard]] QString summary() const { return results.lines().constLast(); }
     /// What a report gives after that label, or of the row with that number.
     [[nodiscard]] QString reported(const QString &beginning) const
@@ -102,6 +128,21 @@ const QString Waiting = QStringLiteral("Waiting");
 const QString Sending = QStringLiteral("Sending...");
 const QString Sent = QStringLiteral("Sent");
 const QString Error = QStringLiteral("Error!");
+const QString NotSent = QStringLiteral("Not sent");
+
+SendOptions toGoOn()
+{
+    SendOptions options;
+    options.goOn = true;
+    return options;
+}
+
+SendOptions forTheRest()
+{
+    SendOptions options;
+    options.rest = true;
+    return options;
+}
 
 bool isFirst(const FakeSmtp::SentMessage &message)
 {
@@ -226,9 +267,7 @@ void TestSendCommand::aProjectWithSentRowsNeedsAWord()
     rig.run();
     QCOMPARE(rig.exitCode, ExitCode::Refused);
     QVERIFY(rig.smtp.sent.isEmpty());
-    SendOptions options;
-    options.rest = true;
-    rig.run(options);
+    rig.run(forTheRest());
     QCOMPARE(rig.exitCode, ExitCode::Success);
     QCOMPARE(rig.addressesSent(),
              (QStringList{QStringLiteral("a1@example.net"), QStringLiteral("a3@example.net")}));
@@ -252,9 +291,7 @@ void TestSendCommand::restWithNothingLeftSendsNothing()
     rig.author.w.form.setText(Control::txtControl, QStringLiteral("me@example.org"));
     rig.author.w.recipients.setState(1, Sent);
     rig.saveProject();
-    SendOptions options;
-    options.rest = true;
-    rig.run(options);
+    rig.run(forTheRest());
     QCOMPARE(rig.exitCode, ExitCode::Success);
     QVERIFY(rig.smtp.calls.isEmpty());
 }
@@ -438,9 +475,7 @@ void TestSendCommand::continueNeedsARunThatStandsStill()
 {
     SendRig rig;
     rig.saveProject();
-    SendOptions options;
-    options.goOn = true;
-    rig.run(options);
+    rig.run(toGoOn());
     QCOMPARE(rig.exitCode, ExitCode::Refused);
     QCOMPARE(rig.messages.lines(), QStringList{QStringLiteral("There is no run to continue.")});
     QVERIFY(rig.smtp.calls.isEmpty());
@@ -453,9 +488,7 @@ void TestSendCommand::continueGoesOnWithAPausedProject()
     rig.startSending();
     rig.command->interrupt();
     rig.finishMessage();
-    SendOptions options;
-    options.goOn = true;
-    rig.run(options);
+    rig.run(toGoOn());
     QCOMPARE(rig.exitCode, ExitCode::Success);
     QCOMPARE(rig.savedStates(), (QStringList{Sent, Sent, Sent}));
     QCOMPARE(rig.smtp.sent.size(), 3);
@@ -554,4 +587,158 @@ void TestSendCommand::aRunThatIsNotBegunHasNoReport()
     rig.run(rig.withReport());
     QCOMPARE(rig.exitCode, ExitCode::Refused);
     QVERIFY(!QFile::exists(rig.report));
+}
+
+void TestSendCommand::aRunThatWasSummedUpLeavesNothingBehind()
+{
+    SendRig rig;
+    rig.saveProject();
+    rig.run();
+    QCOMPARE(rig.records(), QStringList());
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::Success);
+    QCOMPARE(rig.smtp.sent.size(), 6);
+}
+
+void TestSendCommand::aRunLeftBehindNeedsAWord()
+{
+    SendRig rig;
+    rig.leaveRunBehind();
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::Refused);
+    QVERIFY(rig.messages.lines().contains(
+        QStringLiteral("A run of this project did not finish: 1 of 3 sent, 1 in doubt, 1 left.")));
+    for (const char *option : {"--continue", "--rest", "--again"})
+        QVERIFY2(rig.messages.text().contains(QLatin1String(option)), option);
+    QCOMPARE(rig.smtp.sent.size(), 2);
+    QCOMPARE(rig.records().size(), 1);
+}
+
+void TestSendCommand::continueGoesOnWhereALeftRunStood()
+{
+    SendRig rig;
+    rig.leaveRunBehind();
+    rig.run(toGoOn());
+    QCOMPARE(rig.exitCode, ExitCode::SomeRefused);
+    QCOMPARE(rig.addressesSent(),
+             (QStringList{QStringLiteral("a1@example.net"), QStringLiteral("a2@example.net"),
+                          QStringLiteral("a3@example.net")}));
+    QCOMPARE(rig.summary(), QStringLiteral("1 of 1 sent, 1 in doubt"));
+    QCOMPARE(rig.messages.lines().constLast(),
+             QStringLiteral("In doubt: 2  Name 2 <a2@example.net>"));
+    QVERIFY(!rig.saved().paused);
+    QCOMPARE(rig.savedStates(), (QStringList{Sent, Sending, Sent}));
+    QCOMPARE(rig.records(), QStringList());
+}
+
+void TestSendCommand::restAfterALeftRunReachesThoseWithout()
+{
+    SendRig rig;
+    rig.leaveRunBehind();
+    rig.run(forTheRest());
+    QCOMPARE(rig.exitCode, ExitCode::Success);
+    QCOMPARE(rig.smtp.sent.size(), 3);
+    QCOMPARE(rig.addressesSent().constLast(), QStringLiteral("a3@example.net"));
+    // Who calls the command once more is not to mail the others again.
+    QCOMPARE(rig.savedStates(), (QStringList{NotSent, NotSent, Sent}));
+    QVERIFY(!rig.saved().recipients[0].checked && !rig.saved().recipients[1].checked);
+    QCOMPARE(rig.records(), QStringList());
+}
+
+void TestSendCommand::restAfterALeftRunThatReachedAllIsWrittenBack()
+{
+    SendRig rig(2);
+    rig.leaveRunBehind();
+    rig.run(forTheRest());
+    QCOMPARE(rig.exitCode, ExitCode::Success);
+    QCOMPARE(rig.smtp.sent.size(), 2);
+    QCOMPARE(rig.savedStates(), (QStringList{Sent, Sending}));
+    QCOMPARE(rig.records(), QStringList());
+}
+
+void TestSendCommand::againForgetsALeftRun()
+{
+    SendRig rig;
+    rig.leaveRunBehind();
+    SendOptions options;
+    options.again = true;
+    rig.run(options);
+    QCOMPARE(rig.exitCode, ExitCode::Success);
+    QCOMPARE(rig.smtp.sent.size(), 2 + 3);
+    QCOMPARE(rig.records(), QStringList());
+}
+
+void TestSendCommand::continueWritesBackALeftRunThatReachedAll()
+{
+    SendRig rig(2);
+    rig.leaveRunBehind();
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::Refused);
+    QVERIFY(rig.messages.lines().contains(
+        QStringLiteral("What became of a run of this project was not saved: 1 of 2 sent, 1 in "
+                       "doubt.")));
+    rig.run(toGoOn());
+    QCOMPARE(rig.exitCode, ExitCode::SomeRefused);
+    QCOMPARE(rig.summary(), QStringLiteral("1 of 2 sent, 1 in doubt"));
+    QCOMPARE(rig.savedStates(), (QStringList{Sent, Sending}));
+    QCOMPARE(rig.smtp.connections.size(), 1);
+    QCOMPARE(rig.records(), QStringList());
+}
+
+void TestSendCommand::aStartThatIsRefusedKeepsTheLeftRun()
+{
+    SendRig rig;
+    rig.leaveRunBehind();
+    QVERIFY(QFile::remove(rig.author.folder.filePath(QStringLiteral("message.txt"))));
+    for (const SendOptions &options : {forTheRest(), toGoOn()}) {
+        rig.run(options);
+        QCOMPARE(rig.exitCode, ExitCode::Refused);
+        rig.die();
+    }
+    rig.author.useTextMessage("Dear *NOME*,\r\n");
+    rig.run(toGoOn());
+    QCOMPARE(rig.summary(), QStringLiteral("1 of 1 sent, 1 in doubt"));
+}
+
+void TestSendCommand::aRunThatCannotBeRecordedIsSavedPaused()
+{
+    SendRig rig;
+    // A record that is longer than what is written when it can grow no more.
+    rig.author.w.form.setText(Control::txtMittente, QString(2000, u'x'));
+    rig.saveProject();
+    rig.startSending(rig.withReport());
+    {
+        const FileSizeLimit full(static_cast<rlim_t>(rig.sizeOfRecord()));
+        rig.finishMessage();
+    }
+    QCOMPARE(rig.exitCode, ExitCode::SessionError);
+    QCOMPARE(rig.summary(),
+             QStringLiteral("1 of 3 sent, 2 left; paused, the project is saved: ") + rig.path);
+    QVERIFY(rig.saved().paused);
+    QCOMPARE(rig.savedStates(), (QStringList{Sent, Waiting, Waiting}));
+    QCOMPARE(rig.smtp.sent.size(), 1);
+    QCOMPARE(rig.reported(QStringLiteral("Result")), QStringLiteral("Not complete: 2 left"));
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::Success);
+    QCOMPARE(rig.smtp.sent.size(), 3);
+}
+
+void TestSendCommand::aRunThatCanNeitherBeRecordedNorSavedIsKept()
+{
+    SendRig rig;
+    rig.saveProject();
+    rig.startSending();
+    QVERIFY(QFile::remove(rig.path));
+    QVERIFY(QDir().mkdir(rig.path));
+    {
+        const FileSizeLimit full(static_cast<rlim_t>(rig.sizeOfRecord()));
+        rig.finishMessage();
+    }
+    QCOMPARE(rig.exitCode, ExitCode::SessionError);
+    QCOMPARE(rig.summary(), QStringLiteral("1 of 3 sent, 2 left; paused"));
+    rig.die();
+    QVERIFY(QDir().rmdir(rig.path));
+    rig.run(toGoOn());
+    // The result for which there was no room is not known any more.
+    QCOMPARE(rig.summary(), QStringLiteral("2 of 2 sent, 1 in doubt"));
 }

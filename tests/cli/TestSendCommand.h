@@ -43,4 +43,14 @@ private Q_SLOTS:
     void aReportThatCannotBeWrittenIsSaid();
     void aReportThatCannotBeWrittenDoesNotHideThePause();
     void aRunThatIsNotBegunHasNoReport();
+    void aRunThatWasSummedUpLeavesNothingBehind();
+    void aRunLeftBehindNeedsAWord();
+    void continueGoesOnWhereALeftRunStood();
+    void restAfterALeftRunReachesThoseWithout();
+    void restAfterALeftRunThatReachedAllIsWrittenBack();
+    void againForgetsALeftRun();
+    void continueWritesBackALeftRunThatReachedAll();
+    void aStartThatIsRefusedKeepsTheLeftRun();
+    void aRunThatCannotBeRecordedIsSavedPaused();
+    void aRunThatCanNeitherBeRecordedNorSavedIsKept();
 };

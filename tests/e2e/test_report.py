@@ -197,6 +197,24 @@ class Reports(EndToEnd):
         self.assertEqual(head["Result"], "Not complete: 1 in doubt, 1 left")
         self.assertEqual(people[0]["Last outcome"], "in doubt")
 
+    def test_a_run_that_went_on_after_its_program_died_tells_of_both_parts(self):
+        self.server.fail("content", SAYS_NOTHING, after=1)
+        project = self.project(self.server, rows(4))
+        process = self.program.start("send", project)
+        # Greeting, EHLO, then MAIL, RCPT, DATA and the content of two messages.
+        self.server.on_command = lambda number: number == 2 + 2 * 4 and process.kill()
+        Ended(process)
+        self.server.on_command = lambda number: None
+        head, people = self.table_of(project, "--continue", status=1)
+        self.assertEqual(head["Result"], "Not complete: 1 in doubt")
+        self.assertEqual(
+            [(row["Last outcome"], row["Code"], row["Tries"]) for row in people],
+            [("sent", "250", "1"), ("in doubt", "", "1"), ("sent", "250", "1"), ("sent", "250", "1")],
+        )
+        self.assertEqual(people[0]["Command"], "end of DATA")
+        self.assertEqual(people[0]["Server's text"], "Taken as 1")
+        self.assertEqual(self.server.recipients(), [f"r{i}@list.example" for i in (1, 3, 4)])
+
     def test_a_report_that_cannot_be_written_is_3(self):
         missing = self.folder / "missing" / "report.csv"
         ended = self.send(self.project(self.server, rows(1)), "--report", missing, status=3)
