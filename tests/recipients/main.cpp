@@ -1,3 +1,4 @@
+#include "TestAttemptText.h"
 #include "TestQueueId.h"
 #include "TestRecipientCommands.h"
 #include "TestRecipientList.h"
@@ -8,6 +9,6 @@
 
 int main(int argc, char **argv)
 {
-    return runTests<TestStateWords, TestRecipientList, TestRecipientCommands, TestRecipientsFile,
-                    TestQueueId, TestTotals>(argc, argv);
+    return runTests<TestStateWords, TestAttemptText, TestRecipientList, TestRecipientCommands,
+                    TestRecipientsFile, TestQueueId, TestTotals>(argc, argv);
 }

@@ -1,5 +1,6 @@
 #include "TestRecipientList.h"
 
+#include "Languages.h"
 #include "WindowRig.h"
 #include "ui/AttachmentView.h"
 #include "ui/RecipientView.h"
@@ -152,9 +153,35 @@ void TestRecipientList::tooltipOfAStateIsTheServersReply()
     ListRig rig({u"A"_s});
     const QModelIndex state = rig.view().model()->index(0, 3);
     QVERIFY(!state.data(Qt::ToolTipRole).isValid());
+    QVERIFY(!state.data(Qt::AccessibleDescriptionRole).isValid());
     rig.list().setAttempt(
         1, {Outcome::Refused, {SmtpVerb::Rcpt, 550, u"5.1.1"_s, u"<a@b> is unknown"_s}, 0, 1, {}});
+    rig.setState(1, u"Error!"_s);
     QCOMPARE(state.data(Qt::ToolTipRole).toString(), u"<p>550 5.1.1 &lt;a@b&gt; is unknown</p>"_s);
+    QCOMPARE(state.data(Qt::AccessibleDescriptionRole).toString(), u"550 5.1.1 <a@b> is unknown"_s);
+    QVERIFY(!rig.view().model()->index(0, 2).data(Qt::ToolTipRole).isValid());
+}
+
+void TestRecipientList::tooltipSaysWhoIsInDoubt_data()
+{
+    addLanguages();
+}
+
+void TestRecipientList::tooltipSaysWhoIsInDoubt()
+{
+    QFETCH(Language, language);
+    ListRig rig({u"A"_s}, language);
+    const QModelIndex state = rig.view().model()->index(0, 3);
+    rig.list().setAttempt(1, {Outcome::InFlight, {}, 0, 1, {}});
+    rig.setState(1, stateWord(RowState::Sending, language));
+    QVERIFY(!state.data(Qt::ToolTipRole).isValid());
+    rig.list().setAttempt(1, {Outcome::InDoubt, {SmtpVerb::Rcpt, 250, {}, u"Ok"_s}, 0, 1, {}});
+    const QString text =
+        language == Language::Italian
+            ? u"in dubbio: la connessione è finita prima che il server rispondesse"_s
+            : u"in doubt: the connection ended before the server answered"_s;
+    QCOMPARE(state.data(Qt::ToolTipRole).toString(), u"<p>%1</p>"_s.arg(text));
+    QCOMPARE(state.data(Qt::AccessibleDescriptionRole).toString(), text);
 }
 
 void TestRecipientList::clickOnAHeadingSortsAndShowsItsArrow()

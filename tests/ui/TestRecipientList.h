@@ -12,6 +12,8 @@ private Q_SLOTS:
     void stateIsCentred();
     void pictureFollowsTheImageIndex();
     void tooltipOfAStateIsTheServersReply();
+    void tooltipSaysWhoIsInDoubt_data();
+    void tooltipSaysWhoIsInDoubt();
     void clickOnAHeadingSortsAndShowsItsArrow();
     void clickOnTheNumberHeadingNeverChangesTheOrder();
     void sortingKeepsTheSelection();
