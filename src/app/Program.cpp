@@ -21,6 +21,8 @@ Program::Program(Language language, std::function<void()> endProcess)
       probe(connections.newProbe()),
       preflight({workspace.form, workspace.recipients, workspace.attachments, workspace.reader,
                  trial, *probe}),
+      runBar(workspace.form, workspace.recipients, workspace.recipientCommands),
+      reports(workspace.form, workspace.recipients, clock, prompts, AppLog),
       certificateQuestion(connections.SMTP, connections.accounts, prompts, formats)
 {
     const WindowParts parts{workspace,
@@ -35,6 +37,8 @@ Program::Program(Language language, std::function<void()> endProcess)
                             testMessage,
                             journal,
                             recovery,
+                            runBar,
+                            reports,
                             folder,
                             folderOfHelp(folder, QCoreApplication::applicationDirPath()),
                             std::move(endProcess),

@@ -4,6 +4,8 @@
 #include "account/PasswordStore.h"
 #include "base/Shell.h"
 #include "journal/Recovery.h"
+#include "journal/ReportCommands.h"
+#include "journal/RunBar.h"
 #include "preflight/Preflight.h"
 #include "preflight/TestMessage.h"
 #include "project/Workspace.h"
@@ -29,6 +31,8 @@ struct WindowParts
     TestMessage &testMessage;
     RunJournal &journal;
     Recovery &recovery;
+    RunBar &runBar;
+    ReportCommands &reports;
     QString programFolder;
     /// The folder that holds the help pages.
     QString helpFolder;

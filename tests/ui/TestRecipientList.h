@@ -26,9 +26,12 @@ private Q_SLOTS:
     void keysDoNothingWithoutASelection();
     void menuSelectsByState_data();
     void menuSelectsByState();
+    void menuSelectsTheRefusedForNowAndThoseInDoubt_data();
+    void menuSelectsTheRefusedForNowAndThoseInDoubt();
     void statesOfTheOtherLanguageAreSelectedToo();
     void menuChecksUnchecksAndRemoves();
     void rowsStillToDoAreCheckedFromTheMenu();
+    void menuExportsAReportWheneverThereAreRows();
     void selectedRowsAreCopiedAsText();
     void scatteredRowsAreReadInTheirOrder();
     void changesArePublishedTogether();

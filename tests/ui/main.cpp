@@ -11,6 +11,7 @@
 #include "TestMainWindow.h"
 #include "TestPreview.h"
 #include "TestRecipientList.h"
+#include "TestRunBarWindow.h"
 #include "TestTestMessageBox.h"
 #include "TestWindowPrompts.h"
 #include "support/RunTests.h"
@@ -20,7 +21,7 @@
 int main(int argc, char **argv)
 {
     return runTestsIn<QApplication, TestBoxes, TestControls, TestDigitsEdit, TestWindowPrompts,
-                      TestRecipientList, TestMainWindow, TestDialogs, TestDrops, TestHtmlView,
-                      TestPreview, TestLoginBox, TestAccountWindow, TestAccountTrial,
+                      TestRecipientList, TestRunBarWindow, TestMainWindow, TestDialogs, TestDrops,
+                      TestHtmlView, TestPreview, TestLoginBox, TestAccountWindow, TestAccountTrial,
                       TestCheckWindow, TestTestMessageBox>(argc, argv);
 }
