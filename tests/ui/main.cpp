@@ -12,6 +12,7 @@
 #include "TestPreview.h"
 #include "TestRecipientList.h"
 #include "TestRunBarWindow.h"
+#include "TestRunSeen.h"
 #include "TestTestMessageBox.h"
 #include "TestWindowPrompts.h"
 #include "support/RunTests.h"
@@ -21,7 +22,7 @@
 int main(int argc, char **argv)
 {
     return runTestsIn<QApplication, TestBoxes, TestControls, TestDigitsEdit, TestWindowPrompts,
-                      TestRecipientList, TestRunBarWindow, TestMainWindow, TestDialogs, TestDrops,
-                      TestHtmlView, TestPreview, TestLoginBox, TestAccountWindow, TestAccountTrial,
-                      TestCheckWindow, TestTestMessageBox>(argc, argv);
+                      TestRecipientList, TestRunBarWindow, TestRunSeen, TestMainWindow, TestDialogs,
+                      TestDrops, TestHtmlView, TestPreview, TestLoginBox, TestAccountWindow,
+                      TestAccountTrial, TestCheckWindow, TestTestMessageBox>(argc, argv);
 }
