@@ -29,6 +29,7 @@ Program::Program(Language language, std::function<void()> endProcess)
                             prompts,
                             shell,
                             codePage,
+                            formats,
                             connections.accounts,
                             connections.keyring,
                             [this] { return connections.newProbe(); },

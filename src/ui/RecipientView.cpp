@@ -31,6 +31,10 @@ RecipientView::RecipientView(QWidget *parent) : QTreeView(parent)
             Q_EMIT headingClicked(section + 1);
         showSortOrder();
     });
+    connect(this, &RecipientView::doubleClicked, this, [this](const QModelIndex &index) {
+        if (static_cast<Column>(index.column()) == Column::State)
+            Q_EMIT detailsWanted(index.row() + 1);
+    });
 }
 
 void RecipientView::setRecipients(RecipientModel *model, Language language)
@@ -230,6 +234,8 @@ void RecipientView::contextMenuEvent(QContextMenuEvent *event)
     menu->addSeparator();
     addForSelected(tr("Copy as text"), &RecipientView::copy);
     menu->addSeparator();
+    menu->addAction(tr("Details..."), this, [this] { Q_EMIT detailsWanted(currentPosition()); })
+        ->setEnabled(currentPosition() > 0);
     menu->addAction(tr("Export report..."), this, &RecipientView::reportWanted)
         ->setEnabled(m_model->rowCount() > 0);
     menu->popup(event->globalPos());

@@ -50,6 +50,8 @@ Q_SIGNALS:
     void checkWanted();
     void uncheckWanted();
     void reportWanted();
+    /// More is to be told about the row at that position.
+    void detailsWanted(int position);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

@@ -2,6 +2,7 @@
 
 #include "account/Accounts.h"
 #include "account/PasswordStore.h"
+#include "base/RegionalFormats.h"
 #include "base/Shell.h"
 #include "journal/Recovery.h"
 #include "journal/ReportCommands.h"
@@ -21,6 +22,7 @@ struct WindowParts
     Prompts &prompts;
     Shell &shell;
     const CodePage &codePage;
+    const RegionalFormats &formats;
     Accounts &accounts;
     PasswordStore &passwords;
     /// A new probe: each page of an account tries its server out with one of its own.

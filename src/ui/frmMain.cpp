@@ -231,6 +231,8 @@ void frmMain::bindLists()
     connect(&view, &RecipientView::removeWanted, m_ui->cmdRemove, &QPushButton::click);
     connect(&view, &RecipientView::checkWanted, m_ui->cmdCheckAll, &QPushButton::click);
     connect(&view, &RecipientView::uncheckWanted, m_ui->cmdUncheckAll, &QPushButton::click);
+    connect(&view, &RecipientView::detailsWanted, this,
+            [this](int position) { m_companions.showDetails(*m_recipients, position); });
     connect(&view, &RecipientView::reportWanted, m_ui->cmdReport, &QPushButton::click);
     m_ui->lstAllegati->setAttachments(w.attachments);
     connect(m_ui->lstAllegati, &AttachmentView::addWanted, m_ui->cmdAggiungi, &QPushButton::click);

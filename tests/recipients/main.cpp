@@ -1,6 +1,7 @@
 #include "TestAttemptText.h"
 #include "TestQueueId.h"
 #include "TestRecipientCommands.h"
+#include "TestRecipientDetails.h"
 #include "TestRecipientList.h"
 #include "TestRecipientsFile.h"
 #include "TestStateWords.h"
@@ -10,5 +11,5 @@
 int main(int argc, char **argv)
 {
     return runTests<TestStateWords, TestAttemptText, TestRecipientList, TestRecipientCommands,
-                    TestRecipientsFile, TestQueueId, TestTotals>(argc, argv);
+                    TestRecipientsFile, TestQueueId, TestTotals, TestRecipientDetails>(argc, argv);
 }

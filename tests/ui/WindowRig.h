@@ -75,6 +75,7 @@ public:
                 core->prompts,
                 shell,
                 core->codePage,
+                core->formats,
                 side->accounts,
                 side->passwords,
                 [this] {

@@ -3,6 +3,7 @@
 #include "TestBoxes.h"
 #include "TestCheckWindow.h"
 #include "TestControls.h"
+#include "TestDetailsWindow.h"
 #include "TestDialogs.h"
 #include "TestDigitsEdit.h"
 #include "TestDrops.h"
@@ -24,5 +25,6 @@ int main(int argc, char **argv)
     return runTestsIn<QApplication, TestBoxes, TestControls, TestDigitsEdit, TestWindowPrompts,
                       TestRecipientList, TestRunBarWindow, TestRunSeen, TestMainWindow, TestDialogs,
                       TestDrops, TestHtmlView, TestPreview, TestLoginBox, TestAccountWindow,
-                      TestAccountTrial, TestCheckWindow, TestTestMessageBox>(argc, argv);
+                      TestAccountTrial, TestCheckWindow, TestDetailsWindow, TestTestMessageBox>(
+        argc, argv);
 }
