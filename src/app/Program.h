@@ -6,6 +6,8 @@
 #include "base/Language.h"
 #include "base/RegionalFormats.h"
 #include "journal/Recovery.h"
+#include "journal/ReportCommands.h"
+#include "journal/RunBar.h"
 #include "preflight/Preflight.h"
 #include "preflight/TestMessage.h"
 #include "preflight/TrialMessage.h"
@@ -44,6 +46,8 @@ public:
     TestMessage testMessage;
     std::unique_ptr<ServerProbe> probe;
     Preflight preflight;
+    RunBar runBar;
+    ReportCommands reports;
     CertificateQuestion certificateQuestion;
     std::unique_ptr<frmMain> window;
 };

@@ -38,6 +38,8 @@ constexpr std::array Rules{
     Rule{Control::cmdAdd, Yes, No, No},           Rule{Control::cmdRemove, Yes, No, No},
     Rule{Control::cmdCheckAll, Yes, No, No},      Rule{Control::cmdUncheckAll, Yes, No, No},
     Rule{Control::lstDestinatari, Yes, No, No},   Rule{Control::lstAllegati, Yes, No, No},
+    Rule{Control::cmdUncheckSent, Yes, No, No},   Rule{Control::cmdShowRest, Yes, No, No},
+    Rule{Control::cmdCheckRefused, Yes, No, No},  Rule{Control::cmdReport, Yes, No, No},
     Rule{Control::mnuCheck, Yes, No, No},         Rule{Control::mnuTest, Yes, No, No},
     Rule{Control::cmdAccount, Yes, No, Yes},      Rule{Control::cmdStop, No, Yes, Yes},
     Rule{Control::cmdPausa, No, Yes, Yes},

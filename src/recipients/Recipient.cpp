@@ -60,18 +60,23 @@ std::optional<RowState> stateOfWord(const QString &word)
     return std::nullopt;
 }
 
+RowState stateOf(const Recipient &row)
+{
+    return stateOfWord(row.state).value_or(RowState::Waiting);
+}
+
 bool mayHaveTheMessage(const Recipient &row)
 {
-    const auto state = stateOfWord(row.state);
+    const RowState state = stateOf(row);
     return state == RowState::Sent || state == RowState::Sending;
 }
 
 bool isInDoubt(const Recipient &row)
 {
-    return stateOfWord(row.state) == RowState::Sending && row.attempt.outcome != Outcome::InFlight;
+    return stateOf(row) == RowState::Sending && row.attempt.outcome != Outcome::InFlight;
 }
 
 bool isRefusedForNow(const Recipient &row)
 {
-    return stateOfWord(row.state) == RowState::Error && row.attempt.reply.isForNow();
+    return stateOf(row) == RowState::Error && row.attempt.reply.isForNow();
 }

@@ -46,6 +46,9 @@ struct Recipient
     Attempt attempt; ///< the last message handed over for it
 };
 
+/// The state of the row. One whose text is none of the program's words is yet to be reached.
+[[nodiscard]] RowState stateOf(const Recipient &row);
+
 /// Whether the row got the message, or may have: it is "Sent", or "Sending..." since a session
 /// broke off.
 [[nodiscard]] bool mayHaveTheMessage(const Recipient &row);

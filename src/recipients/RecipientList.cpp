@@ -18,6 +18,19 @@ int RecipientList::positionOf(quint64 id, int hint) const
     return found == m_rows.end() ? 0 : static_cast<int>(found - m_rows.begin()) + 1;
 }
 
+std::vector<int>
+RecipientList::positionsWhere(const std::function<bool(const Recipient &row)> &isMeant) const
+{
+    std::vector<int> positions;
+    int position = 0;
+    for (const Recipient &row : m_rows) {
+        ++position;
+        if (isMeant(row))
+            positions.push_back(position);
+    }
+    return positions;
+}
+
 int RecipientList::checkedFrom(int position) const
 {
     const int first = std::clamp(position, 1, count() + 1);

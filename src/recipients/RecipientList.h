@@ -5,6 +5,7 @@
 #include <QCollator>
 #include <QObject>
 
+#include <functional>
 #include <vector>
 
 /// The columns of the list by which it can be sorted.
@@ -28,6 +29,9 @@ public:
     [[nodiscard]] static const QString &textOf(const Recipient &row, Column column);
     /// Where the row with that identity is now; 0 when it is gone. Looks at the hint first.
     [[nodiscard]] int positionOf(quint64 id, int hint = 0) const;
+    /// The positions of such rows, ascending.
+    [[nodiscard]] std::vector<int>
+    positionsWhere(const std::function<bool(const Recipient &row)> &isMeant) const;
     /// How many rows from that position on are checked.
     [[nodiscard]] int checkedFrom(int position) const;
 

@@ -3,7 +3,7 @@
 void Totals::count(const Recipient &row)
 {
     ++rows;
-    switch (stateOfWord(row.state).value_or(RowState::Waiting)) {
+    switch (stateOf(row)) {
     case RowState::Waiting:
         ++waiting;
         break;

@@ -1,7 +1,9 @@
 #include "ui/Companions.h"
 
+#include "ui/RecipientModel.h"
 #include "ui/frmAccount.h"
 #include "ui/frmCheck.h"
+#include "ui/frmDetails.h"
 #include "ui/frmTest.h"
 
 namespace {
@@ -33,9 +35,10 @@ Companions::Companions(const WindowParts &parts, QWidget &window)
       m_newProbe(parts.newProbe),
       m_traceFile(parts.traceFile),
       m_preflight(parts.preflight),
-      m_test(parts.workspace.form, parts.prompts, parts.testMessage)
+      m_test(parts.workspace.form, parts.prompts, parts.testMessage),
+      m_formats(parts.formats)
 {
-    connect(&m_form, &Form::situationChanged, this, &Companions::closeCheck);
+    connect(&m_form, &Form::situationChanged, this, &Companions::closeStale);
     connect(&m_test, &TestToSender::addressChanged, this, &Companions::showTest);
 }
 
@@ -72,11 +75,22 @@ void Companions::mnuCheck_Click()
     bringForward(*m_checkWindow);
 }
 
-// What was found is about the project that is open, before it is sent.
-void Companions::closeCheck()
+void Companions::showDetails(const RecipientModel &recipients, int position)
+{
+    if (!isOpen(m_detailsWindow))
+        m_detailsWindow = new frmDetails(recipients, m_formats, &m_window);
+    m_detailsProject = m_form.situation().project;
+    m_detailsWindow->showRow(recipients.list().at(position).id);
+    bringForward(*m_detailsWindow);
+}
+
+// What was found is about the project that is open, before it is sent; details are about its rows.
+void Companions::closeStale()
 {
     if (m_checkWindow)
         m_checkWindow->close();
+    if (m_detailsWindow && m_detailsProject != m_form.situation().project)
+        m_detailsWindow->close();
 }
 
 void Companions::showTest()

@@ -105,10 +105,10 @@ void MessageBox::addButtons(Buttons buttons)
         m_ownButtons.emplace_back(button, answer);
     };
     if (buttons == Buttons::ContinueOpenForget)
-        add(tr("Continue"), AcceptRole, Answer::Continue);
+        add(tr("&Continue"), AcceptRole, Answer::Continue);
     if (buttons == Buttons::ContinueOpenForget || buttons == Buttons::OpenForget) {
-        add(tr("Open as it is"), AcceptRole, Answer::OpenAsItIs);
-        add(tr("Forget"), DestructiveRole, Answer::Forget);
+        add(tr("&Open as it is"), AcceptRole, Answer::OpenAsItIs);
+        add(tr("&Forget"), DestructiveRole, Answer::Forget);
     }
 }
 
@@ -171,16 +171,18 @@ void MessageBox::changeEvent(QEvent *event)
         placeScrolledText();
 }
 
+// Esc and the title bar mean Cancel, also where no button says so.
 void MessageBox::keyPressEvent(QKeyEvent *event)
 {
-    if (!(mustBeDecided() && event->matches(QKeySequence::Cancel)))
+    if (!event->matches(QKeySequence::Cancel))
         QMessageBox::keyPressEvent(event);
+    else if (!mustBeDecided())
+        reject();
 }
 
 void MessageBox::closeEvent(QCloseEvent *event)
 {
-    if (mustBeDecided())
-        event->ignore();
-    else
-        QMessageBox::closeEvent(event);
+    event->setAccepted(!mustBeDecided());
+    if (!mustBeDecided())
+        reject();
 }

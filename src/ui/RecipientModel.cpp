@@ -1,5 +1,6 @@
 #include "ui/RecipientModel.h"
 
+#include "recipients/AttemptText.h"
 #include "ui/Pictures.h"
 
 #include <algorithm>
@@ -7,6 +8,12 @@
 namespace {
 
 constexpr qint64 PublicationInterval = 100; // milliseconds
+
+// What there is to know beside the text of that column.
+QString beside(const Recipient &row, Column column)
+{
+    return column == Column::State ? AttemptText::besideState(row) : QString();
+}
 
 } // namespace
 
@@ -99,8 +106,12 @@ QVariant RecipientModel::data(const QModelIndex &index, int role) const
             return Qt::AlignCenter;
         break;
     case Qt::ToolTipRole:
-        if (column == Column::State && !row.attempt.reply.isEmpty())
-            return QStringLiteral("<p>%1</p>").arg(row.attempt.reply.toText().toHtmlEscaped());
+        if (const QString text = beside(row, column); !text.isEmpty())
+            return QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
+        break;
+    case Qt::AccessibleDescriptionRole:
+        if (const QString text = beside(row, column); !text.isEmpty())
+            return text;
         break;
     default:
         break;

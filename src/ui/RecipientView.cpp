@@ -31,6 +31,10 @@ RecipientView::RecipientView(QWidget *parent) : QTreeView(parent)
             Q_EMIT headingClicked(section + 1);
         showSortOrder();
     });
+    connect(this, &RecipientView::doubleClicked, this, [this](const QModelIndex &index) {
+        if (static_cast<Column>(index.column()) == Column::State)
+            Q_EMIT detailsWanted(index.row() + 1);
+    });
 }
 
 void RecipientView::setRecipients(RecipientModel *model, Language language)
@@ -144,15 +148,9 @@ void RecipientView::selectAll()
         QTreeView::selectAll();
 }
 
-void RecipientView::selectByState(RowState state)
+void RecipientView::selectWhere(const std::function<bool(const Recipient &row)> &isMeant)
 {
-    std::vector<int> positions;
-    int position = 0;
-    for (const Recipient &row : m_model->list().rows()) {
-        ++position;
-        if (stateOfWord(row.state) == state)
-            positions.push_back(position);
-    }
+    const std::vector<int> positions = m_model->list().positionsWhere(isMeant);
     select(positions);
     if (!positions.empty())
         showCurrent(positions.front());
@@ -231,16 +229,32 @@ void RecipientView::contextMenuEvent(QContextMenuEvent *event)
     addForSelected(tr("Uncheck"), &RecipientView::uncheckWanted);
     addForSelected(tr("Remove"), &RecipientView::removeWanted);
     menu->addSeparator();
-    QMenu *const states = menu->addMenu(tr("Select"));
-    for (const RowState state : {RowState::Waiting, RowState::Sending, RowState::Sent,
-                                 RowState::Error, RowState::NotSent}) {
-        states->addAction(stateWord(state, m_language), this,
-                          [this, state] { selectByState(state); });
-    }
+    addSelections(*menu->addMenu(tr("Select")));
     menu->addAction(tr("Select all"), this, &RecipientView::selectAll);
     menu->addSeparator();
     addForSelected(tr("Copy as text"), &RecipientView::copy);
+    menu->addSeparator();
+    menu->addAction(tr("Details..."), this, [this] { Q_EMIT detailsWanted(currentPosition()); })
+        ->setEnabled(currentPosition() > 0);
+    menu->addAction(tr("Export report..."), this, &RecipientView::reportWanted)
+        ->setEnabled(m_model->rowCount() > 0);
     menu->popup(event->globalPos());
+}
+
+// States are found whichever language their words are in.
+void RecipientView::addSelections(QMenu &menu)
+{
+    const auto add = [this, &menu](const QString &text, auto isMeant) {
+        menu.addAction(text, this, [this, isMeant] { selectWhere(isMeant); });
+    };
+    for (const RowState state : {RowState::Waiting, RowState::Sending, RowState::Sent,
+                                 RowState::Error, RowState::NotSent}) {
+        add(stateWord(state, m_language),
+            [state](const Recipient &row) { return stateOfWord(row.state) == state; });
+    }
+    menu.addSeparator();
+    add(tr("Refused for now"), isRefusedForNow);
+    add(tr("In doubt"), isInDoubt);
 }
 
 void RecipientView::showSortOrder()

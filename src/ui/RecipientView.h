@@ -7,6 +7,8 @@
 #include <functional>
 #include <vector>
 
+class QMenu;
+
 /// The recipient list on the screen. It knows no procedures: it says what the user wants of it.
 class RecipientView : public QTreeView
 {
@@ -29,8 +31,8 @@ public:
     [[nodiscard]] std::vector<int> selectedPositions() const;
     /// Selects these rows (positions 1-based, ascending) and no others.
     void select(const std::vector<int> &positions);
-    /// Selects the rows of that state, whichever language its word is in.
-    void selectByState(RowState state);
+    /// Selects such rows and no others, and brings the first into sight.
+    void selectWhere(const std::function<bool(const Recipient &row)> &isMeant);
     /// Makes the row at that position the current one, alone selected and in sight.
     void goTo(int position);
     /// The position of the current row; 0 without one.
@@ -47,6 +49,9 @@ Q_SIGNALS:
     void removeWanted();
     void checkWanted();
     void uncheckWanted();
+    void reportWanted();
+    /// More is to be told about the row at that position.
+    void detailsWanted(int position);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -62,6 +67,7 @@ private:
     void restoreRows();
     void follow();
     void copy() const;
+    void addSelections(QMenu &menu);
     void showSortOrder();
     [[nodiscard]] bool someSelectedIsUnchecked() const;
 

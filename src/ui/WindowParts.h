@@ -2,8 +2,11 @@
 
 #include "account/Accounts.h"
 #include "account/PasswordStore.h"
+#include "base/RegionalFormats.h"
 #include "base/Shell.h"
 #include "journal/Recovery.h"
+#include "journal/ReportCommands.h"
+#include "journal/RunBar.h"
 #include "preflight/Preflight.h"
 #include "preflight/TestMessage.h"
 #include "project/Workspace.h"
@@ -19,6 +22,7 @@ struct WindowParts
     Prompts &prompts;
     Shell &shell;
     const CodePage &codePage;
+    const RegionalFormats &formats;
     Accounts &accounts;
     PasswordStore &passwords;
     /// A new probe: each page of an account tries its server out with one of its own.
@@ -29,6 +33,8 @@ struct WindowParts
     TestMessage &testMessage;
     RunJournal &journal;
     Recovery &recovery;
+    RunBar &runBar;
+    ReportCommands &reports;
     QString programFolder;
     /// The folder that holds the help pages.
     QString helpFolder;

@@ -46,6 +46,8 @@ frmMain::frmMain(const WindowParts &parts)
       m_place(parts.placeFile),
       m_recipients(new RecipientModel(m_workspace.recipients, this)),
       m_binding(m_form, *this),
+      m_runBar(parts.runBar),
+      m_reports(parts.reports),
       m_codePage(parts.codePage)
 {
     setWindowIcon(Pictures::icon("application"));
@@ -64,9 +66,11 @@ frmMain::frmMain(const WindowParts &parts)
     bindDrops();
     m_binding.applyRunState();
     applyRunState();
+    showRunBar();
 
     connect(&m_form, &Form::runStateChanged, this, &frmMain::applyRunState);
     connect(&m_form, &Form::situationChanged, this, &frmMain::showProgress);
+    connect(&m_runBar, &RunBar::changed, this, &frmMain::showRunBar);
     connect(&m_companions, &Companions::wanted, this, &frmMain::goTo);
     connect(&m_form, &Form::captionChanged, this, [this] { setWindowTitle(m_form.caption()); });
     m_lifecycle.beforeUnload = [this, &journal = parts.journal] {
@@ -205,6 +209,10 @@ void frmMain::bindCommands()
     command(Control::cmdUncheckAll, [this, &w] {
         w.recipientCommands.cmdUncheckAll_Click(m_ui->lstDestinatari->selectedPositions());
     });
+    command(Control::cmdUncheckSent, [this] { m_runBar.cmdUncheckSent_Click(); });
+    command(Control::cmdShowRest, [this] { cmdShowRest_Click(); });
+    command(Control::cmdCheckRefused, [this] { m_runBar.cmdCheckRefused_Click(); });
+    command(Control::cmdReport, [this] { m_reports.cmdReport_Click(); });
 }
 
 void frmMain::bindLists()
@@ -223,6 +231,9 @@ void frmMain::bindLists()
     connect(&view, &RecipientView::removeWanted, m_ui->cmdRemove, &QPushButton::click);
     connect(&view, &RecipientView::checkWanted, m_ui->cmdCheckAll, &QPushButton::click);
     connect(&view, &RecipientView::uncheckWanted, m_ui->cmdUncheckAll, &QPushButton::click);
+    connect(&view, &RecipientView::detailsWanted, this,
+            [this](int position) { m_companions.showDetails(*m_recipients, position); });
+    connect(&view, &RecipientView::reportWanted, m_ui->cmdReport, &QPushButton::click);
     m_ui->lstAllegati->setAttachments(w.attachments);
     connect(m_ui->lstAllegati, &AttachmentView::addWanted, m_ui->cmdAggiungi, &QPushButton::click);
     connect(m_ui->lstAllegati, &AttachmentView::removeWanted, m_ui->cmdRimuovi,
@@ -312,6 +323,27 @@ void frmMain::showProgress()
     m_ui->progress->setFormat(
         progress.total == 0 ? QString()
                             : QStringLiteral("%1 / %2").arg(progress.done).arg(progress.total));
+}
+
+void frmMain::showRunBar()
+{
+    const RunBar::Content &content = m_runBar.content();
+    for (const Control control : {Control::cmdUncheckSent, Control::cmdShowRest,
+                                  Control::cmdCheckRefused, Control::cmdReport}) {
+        auto *const button = qobject_cast<QWidget *>(m_binding.objectOf(control));
+        const bool isShown = content.buttons.contains(control);
+        // Who pressed a button that goes has the keyboard in the list, where something happened.
+        if (!isShown && focusWidget() == button)
+            m_ui->lstDestinatari->setFocus();
+        button->setVisible(isShown);
+    }
+    m_ui->runBar->setVisible(!content.text.isEmpty());
+}
+
+void frmMain::cmdShowRest_Click()
+{
+    m_ui->lstDestinatari->selectWhere(&RunBar::isLeft);
+    m_ui->lstDestinatari->setFocus();
 }
 
 void frmMain::openHelpPage(const QString &page)

@@ -48,7 +48,9 @@ private:
     void command(Control control, std::function<void()> procedure);
     void applyRunState();
     void showProgress();
+    void showRunBar();
 
+    void cmdShowRest_Click();
     void mnuEditor_Click();
     void mnuAbout_Click();
     void openHelpPage(const QString &page);
@@ -71,6 +73,8 @@ private:
     WindowPlace m_place;
     RecipientModel *m_recipients;
     FormBinding m_binding;
+    RunBar &m_runBar;
+    ReportCommands &m_reports;
     const CodePage &m_codePage;
     frmPreview *m_preview = nullptr; ///< made when it is first wanted
     bool m_hasPlace = false;

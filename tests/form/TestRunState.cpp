@@ -67,7 +67,9 @@ ControlSet lockedByStart()
                   Control::cmdAvvio,        Control::txtControl,     Control::txtHTML,
                   Control::cmdAdd,          Control::cmdRemove,      Control::cmdCheckAll,
                   Control::cmdUncheckAll,   Control::lstDestinatari, Control::lstAllegati,
-                  Control::cmdAccount,      Control::mnuCheck,       Control::mnuTest});
+                  Control::cmdAccount,      Control::mnuCheck,       Control::mnuTest,
+                  Control::cmdUncheckSent,  Control::cmdShowRest,    Control::cmdCheckRefused,
+                  Control::cmdReport});
 }
 
 /// What a start enables.

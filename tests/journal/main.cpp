@@ -2,12 +2,13 @@
 #include "TestRecovery.h"
 #include "TestReport.h"
 #include "TestReportCommands.h"
+#include "TestRunBar.h"
 #include "TestRunJournal.h"
 #include "TestRunRecord.h"
 #include "support/RunTests.h"
 
 int main(int argc, char **argv)
 {
-    return runTests<TestRunRecord, TestJournalFile, TestRunJournal, TestRecovery, TestReport,
-                    TestReportCommands>(argc, argv);
+    return runTests<TestReport, TestReportCommands, TestRunBar, TestRunRecord, TestJournalFile,
+                    TestRunJournal, TestRecovery>(argc, argv);
 }

@@ -54,6 +54,17 @@ void TestRecipientList::identitiesAreNeverUsedTwice()
     QCOMPARE(rig.list.positionOf(rows[0].id), 0);
 }
 
+void TestRecipientList::positionsOfChosenRowsAreAscending()
+{
+    RecipientsRig rig;
+    rig.fill({u"A"_s, u"B"_s, u"A"_s});
+    const auto named = [&rig](const QString &name) {
+        return rig.list.positionsWhere([&name](const Recipient &row) { return row.name == name; });
+    };
+    QCOMPARE(named(u"A"_s), std::vector<int>({1, 3}));
+    QCOMPARE(named(u"C"_s), std::vector<int>());
+}
+
 void TestRecipientList::checkedRowsAreCountedFromAPosition()
 {
     RecipientsRig rig;

@@ -13,6 +13,7 @@ private Q_SLOTS:
     void rowKeepsItsIdentityWhereverItMoves();
     void identitiesAreNeverUsedTwice();
     void checkedRowsAreCountedFromAPosition();
+    void positionsOfChosenRowsAreAscending();
     void sortIgnoresLetterCase();
     void sortFollowsTheLocale();
     void sortIsStableInBothOrders();

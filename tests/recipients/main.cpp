@@ -1,5 +1,7 @@
+#include "TestAttemptText.h"
 #include "TestQueueId.h"
 #include "TestRecipientCommands.h"
+#include "TestRecipientDetails.h"
 #include "TestRecipientList.h"
 #include "TestRecipientsFile.h"
 #include "TestStateWords.h"
@@ -8,6 +10,6 @@
 
 int main(int argc, char **argv)
 {
-    return runTests<TestStateWords, TestRecipientList, TestRecipientCommands, TestRecipientsFile,
-                    TestQueueId, TestTotals>(argc, argv);
+    return runTests<TestStateWords, TestAttemptText, TestRecipientList, TestRecipientCommands,
+                    TestRecipientsFile, TestQueueId, TestTotals, TestRecipientDetails>(argc, argv);
 }

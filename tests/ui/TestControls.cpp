@@ -106,6 +106,15 @@ const std::array Widgets{
     Line{"Label1", "QLabel", "Sender Name:", "Nome Mittente:"},
 };
 
+// Of the bar under the recipients, each shown when there is something to do with it.
+const std::array WidgetsOfTheBar{
+    Line{"lblBar", "QLabel"},
+    Line{"cmdUncheckSent", "QPushButton", "Uncheck those sent", "Deseleziona gli inviati"},
+    Line{"cmdShowRest", "QPushButton", "Show the rest", "Mostra i rimanenti"},
+    Line{"cmdCheckRefused", "QPushButton", "Check only the refused", "Seleziona solo i rifiutati"},
+    Line{"cmdReport", "QPushButton", "Report...", "Resoconto..."},
+};
+
 // In the order in which they are shown; each menu is followed by its entries.
 const std::array Entries{
     Line{"mnuFile", "menu", "&File", "&File"},
@@ -133,15 +142,16 @@ const std::array EntriesOfStart{
 
 // From top to bottom and from left to right: the message, the recipients, the run.
 const QStringList ReadingOrder{
-    u"txtMittente"_s,     u"txtEmailMittente"_s, u"txtServer"_s,      u"cmdAccount"_s,
-    u"txtOggetto"_s,      u"txtEmail"_s,         u"cmdEmail"_s,       u"cmdPreviewTXT"_s,
-    u"cmdCancellaTXT"_s,  u"txtHTML"_s,          u"cmdHTML"_s,        u"cmdPreviewHTML"_s,
-    u"cmdCancellaHTML"_s, u"chkRicevuta"_s,      u"chkMultiSend"_s,   u"txtNMsg"_s,
-    u"txtPausa"_s,        u"lstAllegati"_s,      u"cmdAggiungi"_s,    u"cmdRimuovi"_s,
-    u"txtDestinatari"_s,  u"cmdDestinatari"_s,   u"cmdFromRubrica"_s, u"lstDestinatari"_s,
-    u"cmdAdd"_s,          u"cmdRemove"_s,        u"cmdCheckAll"_s,    u"cmdUncheckAll"_s,
-    u"txtControl"_s,      u"cmdNuovo"_s,         u"cmdApri"_s,        u"cmdSave"_s,
-    u"cmdSaveAs"_s,       u"cmdAvvio"_s,         u"cmdPausa"_s,       u"cmdStop"_s,
+    u"txtMittente"_s,     u"txtEmailMittente"_s, u"txtServer"_s,       u"cmdAccount"_s,
+    u"txtOggetto"_s,      u"txtEmail"_s,         u"cmdEmail"_s,        u"cmdPreviewTXT"_s,
+    u"cmdCancellaTXT"_s,  u"txtHTML"_s,          u"cmdHTML"_s,         u"cmdPreviewHTML"_s,
+    u"cmdCancellaHTML"_s, u"chkRicevuta"_s,      u"chkMultiSend"_s,    u"txtNMsg"_s,
+    u"txtPausa"_s,        u"lstAllegati"_s,      u"cmdAggiungi"_s,     u"cmdRimuovi"_s,
+    u"txtDestinatari"_s,  u"cmdDestinatari"_s,   u"cmdFromRubrica"_s,  u"lstDestinatari"_s,
+    u"cmdUncheckSent"_s,  u"cmdShowRest"_s,      u"cmdCheckRefused"_s, u"cmdReport"_s,
+    u"cmdAdd"_s,          u"cmdRemove"_s,        u"cmdCheckAll"_s,     u"cmdUncheckAll"_s,
+    u"txtControl"_s,      u"cmdNuovo"_s,         u"cmdApri"_s,         u"cmdSave"_s,
+    u"cmdSaveAs"_s,       u"cmdAvvio"_s,         u"cmdPausa"_s,        u"cmdStop"_s,
 };
 
 QString lineOf(const QString &name, const QString &kind, const QString &caption)
@@ -367,15 +377,19 @@ void TestControls::everyControlHasItsKindAndCaption()
     QFETCH(const Language, language);
     WindowRig rig(language);
     rig.show();
-    QStringList shown;
-    for (const Line &line : Widgets) {
-        const auto &widget = rig.get<QWidget>(line.name);
-        QVERIFY2(widget.isVisible(), line.name);
-        shown.append(lineOf(widget.objectName(),
-                            QString::fromLatin1(widget.metaObject()->className()),
-                            captionOf(widget)));
-    }
-    QCOMPARE(shown, linesOf(Widgets, language));
+    const auto linesShown = [&rig](const auto &table, bool visible) {
+        QStringList lines;
+        for (const Line &line : table) {
+            const auto &widget = rig.get<QWidget>(line.name);
+            if (widget.isVisible() == visible)
+                lines.append(lineOf(widget.objectName(),
+                                    QString::fromLatin1(widget.metaObject()->className()),
+                                    captionOf(widget)));
+        }
+        return lines;
+    };
+    QCOMPARE(linesShown(Widgets, true), linesOf(Widgets, language));
+    QCOMPARE(linesShown(WidgetsOfTheBar, false), linesOf(WidgetsOfTheBar, language));
     // The frame without a caption holds the buttons of the project and of the run.
     const auto &frame = rig.get<QFrame>("Frame4");
     for (const char *button :
@@ -452,6 +466,8 @@ void TestControls::whatCanBeOperatedIsAControl()
     // And each control is one of the tables above.
     QStringList tables;
     for (const Line &line : Widgets)
+        tables.append(QString::fromLatin1(line.name));
+    for (const Line &line : WidgetsOfTheBar)
         tables.append(QString::fromLatin1(line.name));
     for (const Line &line : Entries)
         tables.append(QString::fromLatin1(line.name));
@@ -632,7 +648,7 @@ void TestControls::tabFollowsTheReadingOrder()
 
     QStringList enabled;
     for (const QWidget *widget : inputsOf(*rig.window)) {
-        if (widget->isEnabled())
+        if (widget->isEnabled() && widget->isVisible())
             enabled.append(widget->objectName());
     }
     rig.get<QWidget>("txtMittente").setFocus();

@@ -1,5 +1,6 @@
 #include "TestRecipientList.h"
 
+#include "Languages.h"
 #include "WindowRig.h"
 #include "ui/AttachmentView.h"
 #include "ui/RecipientView.h"
@@ -68,28 +69,36 @@ struct ListRig : WindowRig
             view().style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option);
         QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, box.center());
     }
-    /// Opens the context menu and triggers the entry of that text, in a submenu when it is there.
-    void choose(const QString &text)
+    [[nodiscard]] QMenu *menu() { return view().findChild<QMenu *>(u"recipientMenu"_s); }
+    void openMenu()
     {
+        delete menu();
         QContextMenuEvent event(QContextMenuEvent::Mouse, {20, 20},
                                 view().mapToGlobal(QPoint(20, 20)));
         QCoreApplication::sendEvent(view().viewport(), &event);
-        auto *const menu = view().findChild<QMenu *>(u"recipientMenu"_s);
-        QVERIFY(menu);
-        QList<QAction *> entries = menu->actions();
-        for (QAction *const entry : menu->actions()) {
+        QVERIFY(menu());
+    }
+    /// The entry of that text in the open menu, in a submenu when it is there.
+    [[nodiscard]] QAction *entry(const QString &text)
+    {
+        QList<QAction *> entries = menu()->actions();
+        for (QAction *const entry : menu()->actions()) {
             if (entry->menu())
                 entries += entry->menu()->actions();
         }
         for (QAction *const entry : entries) {
-            if (entry->text() == text) {
-                QVERIFY(entry->isEnabled());
-                entry->trigger();
-                delete menu;
-                return;
-            }
+            if (entry->text() == text)
+                return entry;
         }
-        QFAIL(qPrintable(u"no entry "_s + text));
+        qFatal("no entry %s", qPrintable(text));
+    }
+    /// Opens the context menu and triggers that entry.
+    void choose(const QString &text)
+    {
+        openMenu();
+        QVERIFY(entry(text)->isEnabled());
+        entry(text)->trigger();
+        delete menu();
     }
     void setState(int position, const QString &state) { list().setState(position, state); }
 };
@@ -152,9 +161,35 @@ void TestRecipientList::tooltipOfAStateIsTheServersReply()
     ListRig rig({u"A"_s});
     const QModelIndex state = rig.view().model()->index(0, 3);
     QVERIFY(!state.data(Qt::ToolTipRole).isValid());
+    QVERIFY(!state.data(Qt::AccessibleDescriptionRole).isValid());
     rig.list().setAttempt(
         1, {Outcome::Refused, {SmtpVerb::Rcpt, 550, u"5.1.1"_s, u"<a@b> is unknown"_s}, 0, 1, {}});
+    rig.setState(1, u"Error!"_s);
     QCOMPARE(state.data(Qt::ToolTipRole).toString(), u"<p>550 5.1.1 &lt;a@b&gt; is unknown</p>"_s);
+    QCOMPARE(state.data(Qt::AccessibleDescriptionRole).toString(), u"550 5.1.1 <a@b> is unknown"_s);
+    QVERIFY(!rig.view().model()->index(0, 2).data(Qt::ToolTipRole).isValid());
+}
+
+void TestRecipientList::tooltipSaysWhoIsInDoubt_data()
+{
+    addLanguages();
+}
+
+void TestRecipientList::tooltipSaysWhoIsInDoubt()
+{
+    QFETCH(Language, language);
+    ListRig rig({u"A"_s}, language);
+    const QModelIndex state = rig.view().model()->index(0, 3);
+    rig.list().setAttempt(1, {Outcome::InFlight, {}, 0, 1, {}});
+    rig.setState(1, stateWord(RowState::Sending, language));
+    QVERIFY(!state.data(Qt::ToolTipRole).isValid());
+    rig.list().setAttempt(1, {Outcome::InDoubt, {SmtpVerb::Rcpt, 250, {}, u"Ok"_s}, 0, 1, {}});
+    const QString text =
+        language == Language::Italian
+            ? u"in dubbio: la connessione è finita prima che il server rispondesse"_s
+            : u"in doubt: the connection ended before the server answered"_s;
+    QCOMPARE(state.data(Qt::ToolTipRole).toString(), u"<p>%1</p>"_s.arg(text));
+    QCOMPARE(state.data(Qt::AccessibleDescriptionRole).toString(), text);
 }
 
 void TestRecipientList::clickOnAHeadingSortsAndShowsItsArrow()
@@ -295,6 +330,32 @@ void TestRecipientList::menuSelectsByState()
     QCOMPARE(rig.view().selectedPositions(), expected);
 }
 
+void TestRecipientList::menuSelectsTheRefusedForNowAndThoseInDoubt_data()
+{
+    addLanguages();
+}
+
+void TestRecipientList::menuSelectsTheRefusedForNowAndThoseInDoubt()
+{
+    QFETCH(Language, language);
+    const bool isItalian = language == Language::Italian;
+    ListRig rig({u"A"_s, u"B"_s, u"C"_s, u"D"_s, u"E"_s}, language);
+    const auto refuse = [&rig, language](int position, int code) {
+        rig.list().setAttempt(position,
+                              {Outcome::Refused, {SmtpVerb::Rcpt, code, {}, u"no"_s}, 0, 1, {}});
+        rig.setState(position, stateWord(RowState::Error, language));
+    };
+    refuse(1, 550);
+    refuse(2, 451);
+    rig.setState(4, stateWord(RowState::Sending, language));
+    rig.list().setAttempt(5, {Outcome::InFlight, {}, 0, 1, {}});
+    rig.setState(5, stateWord(RowState::Sending, language));
+    rig.choose(isItalian ? u"Rifiutati per ora"_s : u"Refused for now"_s);
+    QCOMPARE(rig.view().selectedPositions(), std::vector<int>({2}));
+    rig.choose(isItalian ? u"In dubbio"_s : u"In doubt"_s);
+    QCOMPARE(rig.view().selectedPositions(), std::vector<int>({4}));
+}
+
 void TestRecipientList::statesOfTheOtherLanguageAreSelectedToo()
 {
     ListRig rig({u"A"_s, u"B"_s, u"C"_s});
@@ -327,6 +388,17 @@ void TestRecipientList::rowsStillToDoAreCheckedFromTheMenu()
     rig.choose(u"Sent"_s);
     rig.choose(u"Uncheck"_s);
     QCOMPARE(rig.checks(), QList<bool>({false, true, true}));
+}
+
+void TestRecipientList::menuExportsAReportWheneverThereAreRows()
+{
+    ListRig rig({u"A"_s});
+    rig.core->prompts.expectFile(u"Select the file for the report:"_s, {});
+    rig.choose(u"Export report..."_s);
+    rig.core->prompts.answerAll();
+    rig.list().clear();
+    rig.openMenu();
+    QVERIFY(!rig.entry(u"Export report..."_s)->isEnabled());
 }
 
 void TestRecipientList::selectedRowsAreCopiedAsText()

@@ -12,6 +12,8 @@ private Q_SLOTS:
     void stateIsCentred();
     void pictureFollowsTheImageIndex();
     void tooltipOfAStateIsTheServersReply();
+    void tooltipSaysWhoIsInDoubt_data();
+    void tooltipSaysWhoIsInDoubt();
     void clickOnAHeadingSortsAndShowsItsArrow();
     void clickOnTheNumberHeadingNeverChangesTheOrder();
     void sortingKeepsTheSelection();
@@ -24,9 +26,12 @@ private Q_SLOTS:
     void keysDoNothingWithoutASelection();
     void menuSelectsByState_data();
     void menuSelectsByState();
+    void menuSelectsTheRefusedForNowAndThoseInDoubt_data();
+    void menuSelectsTheRefusedForNowAndThoseInDoubt();
     void statesOfTheOtherLanguageAreSelectedToo();
     void menuChecksUnchecksAndRemoves();
     void rowsStillToDoAreCheckedFromTheMenu();
+    void menuExportsAReportWheneverThereAreRows();
     void selectedRowsAreCopiedAsText();
     void scatteredRowsAreReadInTheirOrder();
     void changesArePublishedTogether();

@@ -1,6 +1,8 @@
 #include "TestWindowPrompts.h"
 
+#include "base/Language.h"
 #include "support/DiskFiles.h"
+#include "support/ItalianTexts.h"
 #include "ui/FileBox.h"
 #include "ui/WindowPrompts.h"
 
@@ -597,6 +599,17 @@ void TestWindowPrompts::keysAnswerQuestions_data()
     row("Yes/No/Cancel: letter", Buttons::YesNoCancel, {Qt::Key_N}, int(Answer::No));
     row("OK/Cancel: Enter", Buttons::OkCancel, {Qt::Key_Return}, int(Answer::Ok));
     row("OK/Cancel: Esc", Buttons::OkCancel, {Qt::Key_Escape}, int(Answer::Cancel));
+    const auto goOn = Buttons::ContinueOpenForget;
+    row("Continue/Open/Forget: Enter", goOn, {Qt::Key_Return}, int(Answer::Continue));
+    row("Continue/Open/Forget: Esc", goOn, {Qt::Key_Escape}, int(Answer::Cancel));
+    row("Continue/Open/Forget: first letter", goOn, {Qt::Key_C}, int(Answer::Continue));
+    row("Continue/Open/Forget: second letter", goOn, {Qt::Key_O}, int(Answer::OpenAsItIs));
+    row("Continue/Open/Forget: third letter", goOn, {Qt::Key_F}, int(Answer::Forget));
+    row("Open/Forget: Enter", Buttons::OpenForget, {Qt::Key_Return}, int(Answer::OpenAsItIs));
+    row("Open/Forget: Esc", Buttons::OpenForget, {Qt::Key_Escape}, int(Answer::Cancel));
+    row("Open/Forget: first letter", Buttons::OpenForget, {Qt::Key_O}, int(Answer::OpenAsItIs));
+    row("Open/Forget: second letter", Buttons::OpenForget, {Qt::Key_F}, int(Answer::Forget));
+    row("Open/Forget: no such letter", Buttons::OpenForget, {Qt::Key_C}, Nothing);
 }
 
 void TestWindowPrompts::keysAnswerQuestions()
@@ -620,6 +633,43 @@ void TestWindowPrompts::keysAnswerQuestions()
     QTRY_COMPARE(answered, answer);
 }
 
+void TestWindowPrompts::whatToDoWithALeftRunHasButtonsOfItsOwn_data()
+{
+    QTest::addColumn<Language>("language");
+    QTest::addColumn<int>("buttons");
+    QTest::addColumn<QStringList>("captions");
+    const QStringList english{u"&Continue"_s, u"&Open as it is"_s, u"&Forget"_s};
+    const QStringList italian{u"&Continua"_s, u"&Apri com'è"_s, u"&Dimentica"_s};
+    const auto row = [](const char *name, Language language, Buttons buttons,
+                        const QStringList &captions) {
+        QTest::newRow(name) << language << int(buttons) << captions;
+    };
+    row("to go on with", Language::English, Buttons::ContinueOpenForget, english);
+    row("nothing to go on with", Language::English, Buttons::OpenForget, english.mid(1));
+    row("to go on with, Italian", Language::Italian, Buttons::ContinueOpenForget, italian);
+    row("nothing to go on with, Italian", Language::Italian, Buttons::OpenForget, italian.mid(1));
+}
+
+// The same order as they are given in, the first one is Enter's, and Tab visits them in it.
+void TestWindowPrompts::whatToDoWithALeftRunHasButtonsOfItsOwn()
+{
+    QFETCH(Language, language);
+    QFETCH(int, buttons);
+    QFETCH(QStringList, captions);
+    std::optional<ItalianTexts> texts;
+    if (language == Language::Italian)
+        texts.emplace();
+    Rig rig;
+    rig.prompts.ask(questionWith(static_cast<Buttons>(buttons)), always, [](Answer) {});
+    QTRY_VERIFY(rig.question());
+    QMap<int, QString> fromLeft;
+    for (const QAbstractButton *button : rig.question()->buttons())
+        fromLeft.insert(button->mapTo(rig.question(), QPoint()).x(), button->text());
+    QCOMPARE(fromLeft.values(), captions);
+    QCOMPARE(rig.question()->defaultButton()->text(), captions.front());
+    QTRY_VERIFY(rig.question()->defaultButton()->hasFocus());
+}
+
 void TestWindowPrompts::enterDeclinesWhatNobodyShouldAgreeToUnread()
 {
     Rig rig;
@@ -639,6 +689,9 @@ void TestWindowPrompts::closingAnswersCancelOrNothing_data()
     QTest::newRow("Yes/No") << int(Buttons::YesNo) << -1;
     QTest::newRow("Yes/No/Cancel") << int(Buttons::YesNoCancel) << int(Answer::Cancel);
     QTest::newRow("OK/Cancel") << int(Buttons::OkCancel) << int(Answer::Cancel);
+    QTest::newRow("Continue/Open/Forget")
+        << int(Buttons::ContinueOpenForget) << int(Answer::Cancel);
+    QTest::newRow("Open/Forget") << int(Buttons::OpenForget) << int(Answer::Cancel);
 }
 
 void TestWindowPrompts::closingAnswersCancelOrNothing()

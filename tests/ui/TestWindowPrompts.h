@@ -46,6 +46,8 @@ private Q_SLOTS:
     void theTitleIsTheProgramsNameWhenThereIsNone();
     void keysAnswerQuestions_data();
     void keysAnswerQuestions();
+    void whatToDoWithALeftRunHasButtonsOfItsOwn_data();
+    void whatToDoWithALeftRunHasButtonsOfItsOwn();
     void enterDeclinesWhatNobodyShouldAgreeToUnread();
     void closingAnswersCancelOrNothing_data();
     void closingAnswersCancelOrNothing();

@@ -29,7 +29,9 @@ struct SideParts
               {core.w.form, core.w.recipients, core.w.attachments, core.w.reader, trial, probe}),
           journal({core.w.form, core.w.recipients, core.w.engine, core.w.projectFile, core.prompts,
                    core.log, core.clock, core.codePage, sync, core.folder.path()}),
-          recovery(journal, core.w.projectCommands, core.w.form, core.prompts)
+          recovery(journal, core.w.projectCommands, core.w.form, core.prompts),
+          bar(core.w.form, core.w.recipients, core.w.recipientCommands),
+          reports(core.w.form, core.w.recipients, core.clock, core.prompts, core.log)
     {}
 
     Accounts accounts;
@@ -43,6 +45,8 @@ struct SideParts
     FakeDiskSync sync;
     RunJournal journal;
     Recovery recovery;
+    RunBar bar;
+    ReportCommands reports;
     QList<QPointer<FakeProbe>> probes; ///< of the pages of accounts, in order
 };
 
@@ -71,6 +75,7 @@ public:
                 core->prompts,
                 shell,
                 core->codePage,
+                core->formats,
                 side->accounts,
                 side->passwords,
                 [this] {
@@ -83,6 +88,8 @@ public:
                 side->test,
                 side->journal,
                 side->recovery,
+                side->bar,
+                side->reports,
                 core->folder.path(),
                 core->folder.path(),
                 [this] { ++endings; },

@@ -3,6 +3,7 @@
 #include "TestBoxes.h"
 #include "TestCheckWindow.h"
 #include "TestControls.h"
+#include "TestDetailsWindow.h"
 #include "TestDialogs.h"
 #include "TestDigitsEdit.h"
 #include "TestDrops.h"
@@ -11,6 +12,8 @@
 #include "TestMainWindow.h"
 #include "TestPreview.h"
 #include "TestRecipientList.h"
+#include "TestRunBarWindow.h"
+#include "TestRunSeen.h"
 #include "TestTestMessageBox.h"
 #include "TestWindowPrompts.h"
 #include "support/RunTests.h"
@@ -20,7 +23,8 @@
 int main(int argc, char **argv)
 {
     return runTestsIn<QApplication, TestBoxes, TestControls, TestDigitsEdit, TestWindowPrompts,
-                      TestRecipientList, TestMainWindow, TestDialogs, TestDrops, TestHtmlView,
-                      TestPreview, TestLoginBox, TestAccountWindow, TestAccountTrial,
-                      TestCheckWindow, TestTestMessageBox>(argc, argv);
+                      TestRecipientList, TestRunBarWindow, TestRunSeen, TestMainWindow, TestDialogs,
+                      TestDrops, TestHtmlView, TestPreview, TestLoginBox, TestAccountWindow,
+                      TestAccountTrial, TestCheckWindow, TestDetailsWindow, TestTestMessageBox>(
+        argc, argv);
 }

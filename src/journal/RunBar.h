@@ -1,0 +1,52 @@
+#pragma once
+
+#include "form/Form.h"
+#include "recipients/RecipientCommands.h"
+#include "recipients/RecipientList.h"
+#include "recipients/Totals.h"
+
+#include <QList>
+
+/// The bar under the recipient list: what is known of the checked rows while no run is shown, and
+/// what is usually done next. It follows the rows once per turn of the event loop, however many of
+/// them change.
+class RunBar : public QObject
+{
+    Q_OBJECT
+
+public:
+    struct Content
+    {
+        QString text; ///< empty: there is no bar
+        QList<Control> buttons;
+
+        bool operator==(const Content &) const = default;
+    };
+
+    RunBar(Form &form, const RecipientList &recipients, RecipientCommands &commands);
+
+    /// What there is to be shown. The text is that of the form's lblBar too.
+    [[nodiscard]] const Content &content() const { return m_content; }
+    /// What it shows for checked rows with these totals.
+    [[nodiscard]] static Content contentFor(const Totals &checked, Language language);
+    /// Whether a run that starts now would reach the row for the first time.
+    [[nodiscard]] static bool isLeft(const Recipient &row);
+
+    /// Unchecks the rows that have the message, and those that may have it: whoever is to risk a
+    /// second one is checked by hand.
+    void cmdUncheckSent_Click();
+    void cmdCheckRefused_Click();
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void updateSoon();
+    void update();
+
+    Form &m_form;
+    const RecipientList &m_recipients;
+    RecipientCommands &m_commands;
+    Content m_content;
+    bool m_updateIsDue = false;
+};
