@@ -23,6 +23,7 @@ Program::Program(Language language, std::function<void()> endProcess)
                  trial, *probe}),
       runBar(workspace.form, workspace.recipients, workspace.recipientCommands),
       reports(workspace.form, workspace.recipients, clock, prompts, AppLog),
+      runSeen(workspace.form, [this] { journal.rowsSeen(); }),
       certificateQuestion(connections.SMTP, connections.accounts, prompts, formats)
 {
     const WindowParts parts{workspace,

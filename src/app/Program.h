@@ -14,6 +14,7 @@
 #include "project/Workspace.h"
 #include "settings/RegFileStore.h"
 #include "ui/DesktopShell.h"
+#include "ui/RunSeen.h"
 #include "ui/WindowPrompts.h"
 #include "ui/frmMain.h"
 
@@ -48,6 +49,7 @@ public:
     Preflight preflight;
     RunBar runBar;
     ReportCommands reports;
+    RunSeen runSeen;
     CertificateQuestion certificateQuestion;
     std::unique_ptr<frmMain> window;
 };
