@@ -29,7 +29,7 @@ public:
     [[nodiscard]] const Content &content() const { return m_content; }
     /// What it shows for checked rows with these totals.
     [[nodiscard]] static Content contentFor(const Totals &checked, Language language);
-    /// Whether a run that starts now would reach the row for the first time.
+    /// Whether the row is one of those whom the run did not come to: checked, and still waiting.
     [[nodiscard]] static bool isLeft(const Recipient &row);
 
     /// Unchecks the rows that have the message, and those that may have it: whoever is to risk a

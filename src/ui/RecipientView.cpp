@@ -33,8 +33,14 @@ RecipientView::RecipientView(QWidget *parent) : QTreeView(parent)
     });
     connect(this, &RecipientView::doubleClicked, this, [this](const QModelIndex &index) {
         if (static_cast<Column>(index.column()) == Column::State)
-            Q_EMIT detailsWanted(index.row() + 1);
+            askForDetails(index);
     });
+}
+
+void RecipientView::askForDetails(const QModelIndex &index)
+{
+    if (index.isValid())
+        Q_EMIT detailsWanted(index.row() + 1);
 }
 
 void RecipientView::setRecipients(RecipientModel *model, Language language)
@@ -234,8 +240,8 @@ void RecipientView::contextMenuEvent(QContextMenuEvent *event)
     menu->addSeparator();
     addForSelected(tr("Copy as text"), &RecipientView::copy);
     menu->addSeparator();
-    menu->addAction(tr("Details..."), this, [this] { Q_EMIT detailsWanted(currentPosition()); })
-        ->setEnabled(currentPosition() > 0);
+    menu->addAction(tr("Details..."), this, [this] { askForDetails(currentIndex()); })
+        ->setEnabled(currentIndex().isValid());
     menu->addAction(tr("Export report..."), this, &RecipientView::reportWanted)
         ->setEnabled(m_model->rowCount() > 0);
     menu->popup(event->globalPos());

@@ -68,6 +68,7 @@ private:
     void follow();
     void copy() const;
     void addSelections(QMenu &menu);
+    void askForDetails(const QModelIndex &index);
     void showSortOrder();
     [[nodiscard]] bool someSelectedIsUnchecked() const;
 

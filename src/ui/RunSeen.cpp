@@ -11,7 +11,7 @@ bool isPress(const QEvent &event)
     case QEvent::MouseButtonPress:
         return true;
     case QEvent::KeyPress:
-    case QEvent::ShortcutOverride: // keys of a command come as this alone
+    case QEvent::ShortcutOverride: // the key of a command comes as this alone
         // A key held down since before, with a book on it for instance, tells of nobody.
         return !static_cast<const QKeyEvent &>(event).isAutoRepeat();
     default:

@@ -66,11 +66,9 @@ frmMain::frmMain(const WindowParts &parts)
     bindDrops();
     m_binding.applyRunState();
     applyRunState();
-    showRunBar();
 
     connect(&m_form, &Form::runStateChanged, this, &frmMain::applyRunState);
     connect(&m_form, &Form::situationChanged, this, &frmMain::showProgress);
-    connect(&m_runBar, &RunBar::changed, this, &frmMain::showRunBar);
     connect(&m_companions, &Companions::wanted, this, &frmMain::goTo);
     connect(&m_form, &Form::captionChanged, this, [this] { setWindowTitle(m_form.caption()); });
     m_lifecycle.beforeUnload = [this, &journal = parts.journal] {
@@ -210,7 +208,10 @@ void frmMain::bindCommands()
         w.recipientCommands.cmdUncheckAll_Click(m_ui->lstDestinatari->selectedPositions());
     });
     command(Control::cmdUncheckSent, [this] { m_runBar.cmdUncheckSent_Click(); });
-    command(Control::cmdShowRest, [this] { cmdShowRest_Click(); });
+    command(Control::cmdShowRest, [this] {
+        m_ui->lstDestinatari->selectWhere(&RunBar::isLeft);
+        m_ui->lstDestinatari->setFocus();
+    });
     command(Control::cmdCheckRefused, [this] { m_runBar.cmdCheckRefused_Click(); });
     command(Control::cmdReport, [this] { m_reports.cmdReport_Click(); });
 }
@@ -220,6 +221,7 @@ void frmMain::bindLists()
     Workspace &w = m_workspace;
     RecipientView &view = *m_ui->lstDestinatari;
     view.setRecipients(m_recipients, m_form.language());
+    m_ui->runBar->setBar(m_runBar, view);
     connect(m_recipients, &RecipientModel::itemChecked, this, [&w](int position, bool checked) {
         w.recipientCommands.lstDestinatari_ItemCheck(position, checked);
     });
@@ -323,27 +325,6 @@ void frmMain::showProgress()
     m_ui->progress->setFormat(
         progress.total == 0 ? QString()
                             : QStringLiteral("%1 / %2").arg(progress.done).arg(progress.total));
-}
-
-void frmMain::showRunBar()
-{
-    const RunBar::Content &content = m_runBar.content();
-    for (const Control control : {Control::cmdUncheckSent, Control::cmdShowRest,
-                                  Control::cmdCheckRefused, Control::cmdReport}) {
-        auto *const button = qobject_cast<QWidget *>(m_binding.objectOf(control));
-        const bool isShown = content.buttons.contains(control);
-        // Who pressed a button that goes has the keyboard in the list, where something happened.
-        if (!isShown && focusWidget() == button)
-            m_ui->lstDestinatari->setFocus();
-        button->setVisible(isShown);
-    }
-    m_ui->runBar->setVisible(!content.text.isEmpty());
-}
-
-void frmMain::cmdShowRest_Click()
-{
-    m_ui->lstDestinatari->selectWhere(&RunBar::isLeft);
-    m_ui->lstDestinatari->setFocus();
 }
 
 void frmMain::openHelpPage(const QString &page)

@@ -48,9 +48,7 @@ private:
     void command(Control control, std::function<void()> procedure);
     void applyRunState();
     void showProgress();
-    void showRunBar();
 
-    void cmdShowRest_Click();
     void mnuEditor_Click();
     void mnuAbout_Click();
     void openHelpPage(const QString &page);

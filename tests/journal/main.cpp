@@ -9,6 +9,6 @@
 
 int main(int argc, char **argv)
 {
-    return runTests<TestReport, TestReportCommands, TestRunBar, TestRunRecord, TestJournalFile,
-                    TestRunJournal, TestRecovery>(argc, argv);
+    return runTests<TestRunRecord, TestJournalFile, TestRunJournal, TestRecovery, TestReport,
+                    TestReportCommands, TestRunBar>(argc, argv);
 }

@@ -19,5 +19,6 @@ private Q_SLOTS:
     void onlyTheRefusedAreChecked();
     void theReportIsAskedFor();
     void itIsReachedByKeyboardAndLeavesTheKeysInTheList();
+    void itNamesWhatUncheckingMeansForThoseInDoubt_data();
     void itNamesWhatUncheckingMeansForThoseInDoubt();
 };
