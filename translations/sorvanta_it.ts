@@ -58,6 +58,53 @@
     </message>
 </context>
 <context>
+    <name>AttemptText</name>
+    <message>
+        <source>in doubt: the connection ended before the server answered</source>
+        <translation>in dubbio: la connessione è finita prima che il server rispondesse</translation>
+    </message>
+    <message>
+        <source>before: sent</source>
+        <translation>prima: inviato</translation>
+    </message>
+    <message>
+        <source>before: refused</source>
+        <translation>prima: rifiutato</translation>
+    </message>
+    <message>
+        <source>before: not taken</source>
+        <translation>prima: non preso in carico</translation>
+    </message>
+    <message>
+        <source>before: in doubt</source>
+        <translation>prima: in dubbio</translation>
+    </message>
+    <message>
+        <source>on its way: the server has not answered yet</source>
+        <translation>in viaggio: il server non ha ancora risposto</translation>
+    </message>
+    <message>
+        <source>sent: the server accepted the message</source>
+        <translation>inviato: il server ha accettato il messaggio</translation>
+    </message>
+    <message>
+        <source>refused for now: the server may accept it later</source>
+        <translation>rifiutato per ora: il server potrebbe accettarlo più tardi</translation>
+    </message>
+    <message>
+        <source>refused</source>
+        <translation>rifiutato</translation>
+    </message>
+    <message>
+        <source>nothing was sent yet</source>
+        <translation>non è ancora stato inviato nulla</translation>
+    </message>
+    <message>
+        <source>passed over: the row was not checked</source>
+        <translation>saltato: la riga non era selezionata</translation>
+    </message>
+</context>
+<context>
     <name>CertificateQuestion</name>
     <message>
         <source>Certificate</source>
@@ -257,16 +304,16 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
 <context>
     <name>MessageBox</name>
     <message>
-        <source>Continue</source>
-        <translation>Continua</translation>
+        <source>&amp;Continue</source>
+        <translation>&amp;Continua</translation>
     </message>
     <message>
-        <source>Open as it is</source>
-        <translation>Apri com&apos;è</translation>
+        <source>&amp;Open as it is</source>
+        <translation>&amp;Apri com&apos;è</translation>
     </message>
     <message>
-        <source>Forget</source>
-        <translation>Dimentica</translation>
+        <source>&amp;Forget</source>
+        <translation>&amp;Dimentica</translation>
     </message>
 </context>
 <context>
@@ -524,6 +571,61 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     </message>
 </context>
 <context>
+    <name>RecipientDetails</name>
+    <message>
+        <source>Number</source>
+        <translation>Numero</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Indirizzo E-Mail</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>Esito</translation>
+    </message>
+    <message>
+        <source>Server&apos;s reply</source>
+        <translation>Risposta del server</translation>
+    </message>
+    <message>
+        <source>Reply code</source>
+        <translation>Codice di risposta</translation>
+    </message>
+    <message>
+        <source>Enhanced code</source>
+        <translation>Codice esteso</translation>
+    </message>
+    <message>
+        <source>Reply to the command</source>
+        <translation>Risposta al comando</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Data e ora</translation>
+    </message>
+    <message>
+        <source>Tries</source>
+        <translation>Tentativi</translation>
+    </message>
+    <message>
+        <source>Message identifier</source>
+        <translation>Identificativo del messaggio</translation>
+    </message>
+    <message>
+        <source>Queue id at the server</source>
+        <translation>Identificativo nella coda del server</translation>
+    </message>
+</context>
+<context>
     <name>RecipientModel</name>
     <message>
         <source>N°</source>
@@ -567,6 +669,22 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <message>
         <source>Copy as text</source>
         <translation>Copia come testo</translation>
+    </message>
+    <message>
+        <source>Details...</source>
+        <translation>Dettagli...</translation>
+    </message>
+    <message>
+        <source>Export report...</source>
+        <translation>Esporta resoconto...</translation>
+    </message>
+    <message>
+        <source>Refused for now</source>
+        <translation>Rifiutati per ora</translation>
+    </message>
+    <message>
+        <source>In doubt</source>
+        <translation>In dubbio</translation>
     </message>
 </context>
 <context>
@@ -638,6 +756,10 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
 &quot;Forget&quot; throws this record away.</source>
         <translation>&quot;Apri com&apos;è&quot; mostra l&apos;esito per ciascun destinatario, senza alcun invio in corso.
 &quot;Dimentica&quot; elimina questa registrazione.</translation>
+    </message>
+    <message>
+        <source>The record is damaged: of whom it does not tell counts as in doubt.</source>
+        <translation>La registrazione è danneggiata: chi non vi compare è considerato in dubbio.</translation>
     </message>
 </context>
 <context>
@@ -817,10 +939,6 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
         <translation>Un altro programma stava inviando questo progetto quando è stato aperto qui. Riaprirlo per vedere fin dove è arrivato quell&apos;invio.</translation>
     </message>
     <message>
-        <source>This project is being run by another program: process %1 on %2. It cannot be run twice at the same time.</source>
-        <translation>Un altro programma sta inviando questo progetto: processo %1 su %2. Non può essere inviato due volte contemporaneamente.</translation>
-    </message>
-    <message>
         <source>The run cannot be recorded, and is not started.</source>
         <translation>L&apos;invio non può essere registrato e non viene avviato.</translation>
     </message>
@@ -843,6 +961,10 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <message>
         <source>The run is paused, because it cannot be recorded any more. What was sent so far is known. Make room and press Resume.</source>
         <translation>L&apos;invio è in pausa, perché non può più essere registrato. Quanto è stato inviato finora è noto. Liberare spazio e premere Riprendi.</translation>
+    </message>
+    <message>
+        <source>Another program is running this project, or has a run of it that is not saved yet: process %1 on %2. It cannot be run twice at the same time.</source>
+        <translation>Un altro programma sta inviando questo progetto, o ne ha un invio non ancora salvato: processo %1 su %2. Non può essere inviato due volte contemporaneamente.</translation>
     </message>
 </context>
 <context>
@@ -1397,6 +1519,29 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     </message>
 </context>
 <context>
+    <name>frmDetails</name>
+    <message>
+        <source>This recipient is no longer in the list.</source>
+        <translation>Questo destinatario non è più nella lista.</translation>
+    </message>
+    <message>
+        <source>Details of the recipient</source>
+        <translation>Dettagli del destinatario</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Details of %1</source>
+        <translation>Dettagli di %1</translation>
+    </message>
+</context>
+<context>
     <name>frmEditor</name>
     <message>
         <source>Select Editor</source>
@@ -1704,6 +1849,26 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <message>
         <source>Send a &amp;test to me</source>
         <translation>Inviami una &amp;prova</translation>
+    </message>
+    <message>
+        <source>Those in doubt are unchecked too: they may have the message.</source>
+        <translation>Deseleziona anche chi è in dubbio: potrebbe avere il messaggio.</translation>
+    </message>
+    <message>
+        <source>Uncheck those sent</source>
+        <translation>Deseleziona gli inviati</translation>
+    </message>
+    <message>
+        <source>Show the rest</source>
+        <translation>Mostra i rimanenti</translation>
+    </message>
+    <message>
+        <source>Check only the refused</source>
+        <translation>Seleziona solo i rifiutati</translation>
+    </message>
+    <message>
+        <source>Report...</source>
+        <translation>Resoconto...</translation>
     </message>
 </context>
 <context>

@@ -77,6 +77,10 @@ void Recovery::ask(const LeftRun &run, std::function<void()> onForgotten)
     question.text = tr("What became of a run of %1 has not been seen or saved:").arg(name) +
                     QLatin1String("\n\n") + summaryOf(run.record, m_form.language()) +
                     QLatin1String(".\n\n");
+    if (run.record.isDamaged) {
+        question.text += tr("The record is damaged: of whom it does not tell counts as in doubt.") +
+                         QLatin1String("\n\n");
+    }
     if (canContinue) {
         question.text += tr("\"Continue\" shows the run paused where it stood: it goes on with "
                             "Resume, and who is in doubt is left out.") +

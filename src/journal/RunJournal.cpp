@@ -73,13 +73,13 @@ bool RunJournal::claim()
     auto lock = lockProject();
     if (!lock) {
         const LockRefusal &refusal = lock.error();
-        QString text =
-            refusal.isHeld
-                ? tr("This project is being run by another program: process %1 on %2. It cannot "
-                     "be run twice at the same time.")
-                      .arg(refusal.process)
-                      .arg(refusal.host)
-                : tr("The run cannot be recorded, and is not started.");
+        QString text = refusal.isHeld
+                           ? tr("Another program is running this project, or has a run of it that "
+                                "is not saved "
+                                "yet: process %1 on %2. It cannot be run twice at the same time.")
+                                 .arg(refusal.process)
+                                 .arg(refusal.host)
+                           : tr("The run cannot be recorded, and is not started.");
         m_prompts.notice({Icon::Exclamation, tr("Run"), text,
                           refusal.isHeld
                               ? tr("If that program is gone, delete the file %1.").arg(refusal.file)
@@ -139,7 +139,8 @@ tl::expected<void, FileError> RunJournal::openFile()
         if (m_file)
             m_file->remove();
         m_file = std::move(file);
-        m_hasBegun = false;
+        // Also when only earlier runs sent anything: what is known of that is in the file.
+        m_hasBegun = record.hasBegun();
     }
     return {};
 }
@@ -203,12 +204,13 @@ void RunJournal::settled(const MessageInFlight &message, const std::vector<RowRe
 
 void RunJournal::over()
 {
-    m_projectLock.reset();
     if (!std::exchange(m_isOver, true) && m_file) {
         static_cast<void>(m_file->append(RunLines::over(m_clock.milliseconds())));
         if (!m_hasBegun) // a run that sent nothing has nothing to tell
             discard();
     }
+    if (!m_file)
+        m_projectLock.reset();
 }
 
 void RunJournal::rowsSeen()
@@ -255,6 +257,8 @@ void RunJournal::discard()
     if (m_file)
         m_file->remove();
     m_file.reset();
+    if (m_isOver)
+        m_projectLock.reset();
 }
 
 void RunJournal::adopt(const QString &file, std::shared_ptr<RunLock> lock, bool isOver)

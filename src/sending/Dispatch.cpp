@@ -4,7 +4,6 @@
 #include "sending/SendingEngine.h"
 
 #include "base/Numbers.h"
-#include "recipients/TotalsText.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
@@ -71,16 +70,9 @@ void SendingEngine::endPacket()
 
 void SendingEngine::endRunOfItself(const QString &text)
 {
-    const Totals meant = totalsOfChecked(m_recipients.rows());
-    m_AppLog.WriteMessage(meant.isAccountedFor() ? QStringLiteral("Sending ended without problems")
-                                                 : QStringLiteral("No message is left to send"));
+    m_AppLog.WriteMessage(QStringLiteral("Sending ended without problems"));
     StopSending();
-    // Of a run that went on after it was broken off, some may be in doubt.
-    m_prompts.notice({Icon::Information, Texts::tr("Sending"),
-                      meant.isAccountedFor()
-                          ? text
-                          : Texts::tr("No message is left to send. Not accounted for: %1.")
-                                .arg(TotalsText(m_form.language()).unaccountedFor(meant))});
+    m_prompts.notice({Icon::Information, Texts::tr("Sending"), text});
     Q_EMIT runEnded();
 }
 

@@ -207,6 +207,16 @@ void TestRecovery::aRunThatSentNothingIsNotAskedAbout()
     QVERIFY(j.rig->prompts.questions.isEmpty());
 }
 
+void TestRecovery::aDamagedRecordIsSaidToBeDamaged()
+{
+    JournalRig j;
+    killInTheMiddle(j);
+    const QByteArray record = j.record();
+    writeFile(j.path(u"Runs/"_s + j.records().front()), record + "rubbish\n");
+    j.openAnswering(Answer::Cancel);
+    QVERIFY(j.rig->prompts.questions.constLast().text.contains(u"damaged"_s));
+}
+
 void TestRecovery::aRecordThatCannotBeReadStaysAndIsNotAskedAbout()
 {
     JournalRig j;

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void atStartTheNewestIsAskedAboutFirst();
     void aRunWithoutAProjectFileIsAskedAboutAtStart();
     void aRunThatSentNothingIsNotAskedAbout();
+    void aDamagedRecordIsSaidToBeDamaged();
     void aRecordThatCannotBeReadStaysAndIsNotAskedAbout();
     void aRunThatAnotherProcessHasOpenIsNotAskedAbout();
     void theProjectAtTheCommandLineIsAskedAbout();

@@ -339,8 +339,10 @@ void TestRunJournal::aProjectThatAnotherProcessRunsIsRefused()
     QCOMPARE(j.rig->w.form.runState(), RunState::Idle);
     const QList<Notice> notices = j.rig->prompts.takeNotices();
     QCOMPARE(notices.size(), 1);
-    QCOMPARE(notices[0].text, u"This project is being run by another program: process 4711 on "
-                              "other-pc. It cannot be run twice at the same time."_s);
+    QCOMPARE(notices[0].text,
+             u"Another program is running this project, or has a run of it that is "
+             "not saved yet: process 4711 on other-pc. It cannot be run twice at "
+             "the same time."_s);
     QCOMPARE(notices[0].detail,
              u"If that program is gone, delete the file %1.lock."_s.arg(j.path()));
     QCOMPARE(j.rig->state(1), u"Sent"_s);
@@ -418,6 +420,32 @@ void TestRunJournal::aPausedRunKeepsItsLockAndAStoppedOneDoesNot()
     QVERIFY(isLocked(j.path()));
     j.journal->close();
     QVERIFY(!isLocked(j.path()));
+}
+
+void TestRunJournal::aStoppedRunKeepsItsLockUntilTheProjectIsSaved()
+{
+    JournalRig j;
+    j.save();
+    j.rig->startSending();
+    j.rig->smtp.raiseDone(true);
+    j.stop();
+    QVERIFY(isLocked(j.path()));
+    j.save();
+    QVERIFY(!isLocked(j.path()));
+}
+
+void TestRunJournal::aRunThatSentNothingKeepsWhatIsKnownOfAnEarlierOne()
+{
+    JournalRig j;
+    j.rig->startSending();
+    j.rig->smtp.raiseDone(true, {Taken});
+    j.stop();
+    j.rig->clock.advanceMilliseconds(1);
+    j.rig->start();
+    j.rig->Timer.tick();
+    j.rig->smtp.raiseError(4, u"connection refused"_s);
+    QCOMPARE(j.readRecord()->project.recipients[0].attempt.reply, Taken);
+    QCOMPARE(j.rig->prompts.takeNotices().size(), 1);
 }
 
 void TestRunJournal::theLockFollowsAProjectSavedUnderAnotherName()

@@ -34,5 +34,7 @@ private Q_SLOTS:
     void theLockOfAProcessThatIsGoneIsTakenOver();
     void aProjectInAFolderThatMayNotBeWrittenIsLockedElsewhere();
     void aPausedRunKeepsItsLockAndAStoppedOneDoesNot();
+    void aStoppedRunKeepsItsLockUntilTheProjectIsSaved();
+    void aRunThatSentNothingKeepsWhatIsKnownOfAnEarlierOne();
     void theLockFollowsAProjectSavedUnderAnotherName();
 };

@@ -79,24 +79,6 @@ void TestDispatch::aPacketFilledByTheLastMessageEndsTheRun()
     QCOMPARE(rig.smtp.connections.size(), 1);
 }
 
-void TestDispatch::aRunWithSomebodyInDoubtIsNotSaidToHaveEnded()
-{
-    WorkspaceRig rig;
-    rig.fillForm(2);
-    rig.w.recipients.setState(1, QStringLiteral("Sending..."));
-    rig.w.engine.setNextRecipientIndex(2);
-    rig.w.engine.EnterPausedState();
-    rig.w.engine.cmdPausa_Click();
-    rig.Timer.tick();
-    rig.smtp.raiseReady();
-    rig.finishMessage();
-    QCOMPARE(rig.w.form.runState(), RunState::Idle);
-    QCOMPARE(rig.prompts.takeNoticeTexts(),
-             QStringList{QStringLiteral("No message is left to send. Not accounted for: 1 in "
-                                        "doubt.")});
-    QVERIFY(rig.logged().contains(QStringLiteral("No message is left to send")));
-}
-
 void TestDispatch::aPacketFilledBeforeUncheckedRowsNeedsOneMore()
 {
     WorkspaceRig rig;

@@ -10,7 +10,6 @@ private Q_SLOTS:
     void otherCodesChangeNothing();
     void packetsOfThreeWithFiveRows();
     void aPacketFilledByTheLastMessageEndsTheRun();
-    void aRunWithSomebodyInDoubtIsNotSaidToHaveEnded();
     void aPacketFilledBeforeUncheckedRowsNeedsOneMore();
     void uncheckedRowsPassedOverAreNotSent();
     void uncheckedRowsAtTheEndAreMarkedByALaterSearch();

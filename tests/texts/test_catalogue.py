@@ -35,6 +35,12 @@ def updated():
         return entries(copy)
 
 
+def texts(translation):
+    """What a translation says: one text, or one for each plural form."""
+    forms = translation.findall("numerusform")
+    return [form.text or "" for form in forms] or [translation.text or ""]
+
+
 class Catalogue(unittest.TestCase):
     """The catalogue against the sources, and each translation against its English text."""
 
@@ -53,19 +59,21 @@ class Catalogue(unittest.TestCase):
         for key, translation in entries(CATALOGUE).items():
             with self.subTest(key):
                 self.assertIsNone(translation.get("type"))
-                self.assertTrue(translation.text)
+                self.assertTrue(all(texts(translation)))
 
     def test_places_for_values_are_the_same(self):
         for key, translation in entries(CATALOGUE).items():
             with self.subTest(key):
-                places = re.findall(r"%\d", key[1])
-                self.assertEqual(sorted(re.findall(r"%\d", translation.text)), sorted(places))
+                places = sorted(re.findall(r"%\d", key[1]))
+                for text in texts(translation):
+                    self.assertEqual(sorted(re.findall(r"%\d", text)), places)
 
     def test_blanks_at_the_edges_are_the_same(self):
         for key, translation in entries(CATALOGUE).items():
             with self.subTest(key):
-                self.assertEqual(translation.text[:1] == " ", key[1][:1] == " ")
-                self.assertEqual(translation.text[-1:] == " ", key[1][-1:] == " ")
+                for text in texts(translation):
+                    self.assertEqual(text[:1] == " ", key[1][:1] == " ")
+                    self.assertEqual(text[-1:] == " ", key[1][-1:] == " ")
 
     def test_patterns_of_file_filters_are_the_same(self):
         for key, translation in entries(CATALOGUE).items():
