@@ -22,8 +22,7 @@ bool isOffered(Buttons buttons, Answer answer)
         return answer == Answer::Continue || answer == Answer::OpenAsItIs ||
                answer == Answer::Forget || answer == Answer::Cancel;
     case Buttons::OpenForget:
-        return answer == Answer::OpenAsItIs || answer == Answer::Forget ||
-               answer == Answer::Cancel;
+        return answer == Answer::OpenAsItIs || answer == Answer::Forget || answer == Answer::Cancel;
     }
     return false;
 }
