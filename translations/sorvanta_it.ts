@@ -744,10 +744,6 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
         <translation>Invio interrotto</translation>
     </message>
     <message>
-        <source>What became of a run of %1 has not been seen or saved:</source>
-        <translation>L&apos;esito di un invio di %1 non è stato visto né salvato:</translation>
-    </message>
-    <message>
         <source>&quot;Continue&quot; shows the run paused where it stood: it goes on with Resume, and who is in doubt is left out.</source>
         <translation>&quot;Continua&quot; mostra l&apos;invio in pausa al punto in cui era: prosegue con Riprendi, e chi è in dubbio resta escluso.</translation>
     </message>
@@ -760,6 +756,14 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <message>
         <source>The record is damaged: of whom it does not tell counts as in doubt.</source>
         <translation>La registrazione è danneggiata: chi non vi compare è considerato in dubbio.</translation>
+    </message>
+    <message>
+        <source>A run of %1 was interrupted:</source>
+        <translation>Un invio di %1 è stato interrotto:</translation>
+    </message>
+    <message>
+        <source>What became of a run of %1 has not been seen yet:</source>
+        <translation>L&apos;esito di un invio di %1 non è ancora stato visto:</translation>
     </message>
 </context>
 <context>

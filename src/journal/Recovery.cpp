@@ -74,7 +74,9 @@ void Recovery::ask(const LeftRun &run, std::function<void()> onForgotten)
     question.topic = Topic::InterruptedRun;
     question.buttons = canContinue ? Buttons::ContinueOpenForget : Buttons::OpenForget;
     question.title = tr("Interrupted run");
-    question.text = tr("What became of a run of %1 has not been seen or saved:").arg(name) +
+    question.text = (canContinue ? tr("A run of %1 was interrupted:")
+                                 : tr("What became of a run of %1 has not been seen yet:"))
+                        .arg(name) +
                     QLatin1String("\n\n") + summaryOf(run.record, m_form.language()) +
                     QLatin1String(".\n\n");
     if (run.record.isDamaged) {
