@@ -6,6 +6,8 @@
 
 #include <QSignalSpy>
 
+#include <sys/file.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -17,6 +19,14 @@ const ServerReply Unknown{SmtpVerb::Rcpt, 550, u"5.1.1"_s, u"no such user"_s};
 void lockElsewhere(const QString &file)
 {
     writeFile(file + u".lock"_s, "4711\nsorvanta\nother-pc\nanother machine\nanother boot\n");
+}
+
+// The lock of a process of this machine that is gone.
+void lockByNobody(const QString &file)
+{
+    constexpr int NoProcess = 4'194'304; // beyond the largest number that Linux gives
+    const QByteArray host = readFile(u"/proc/sys/kernel/hostname"_s).trimmed();
+    writeFile(file + u".lock"_s, QByteArray::number(NoProcess) + "\nsorvanta\n" + host + "\n\n\n");
 }
 
 enum Mode { ReadOnly, Writable };
@@ -376,12 +386,27 @@ void TestRunJournal::theLockOfAProcessThatIsGoneIsTakenOver()
 {
     JournalRig j;
     j.save();
-    constexpr int NoProcess = 4'194'304; // beyond the largest number that Linux gives
-    QByteArray lock = readFile(u"/proc/sys/kernel/hostname"_s);
-    lock = QByteArray::number(NoProcess) + "\nsorvanta\n" + lock.trimmed() + "\n\n\n";
-    writeFile(j.path() + u".lock"_s, lock);
+    lockByNobody(j.path());
     j.rig->start();
     QCOMPARE(j.rig->w.form.runState(), RunState::Waiting);
+}
+
+void TestRunJournal::aLockWhoseProcessDiedBeforeItSaidSoIsTakenOver()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(u"mailing.svk"_s);
+    writeFile(file + u".lock"_s, {});
+    QVERIFY(RunLock::take(file));
+    // It died while it took over the lock of another one.
+    lockByNobody(file);
+    writeFile(file + u".lock.rmlock"_s, {});
+    QVERIFY(RunLock::take(file));
+    // It lives, and is about to say so.
+    QFile lock(file + u".lock"_s);
+    QVERIFY(lock.open(QIODevice::WriteOnly));
+    QCOMPARE(::flock(lock.handle(), LOCK_EX | LOCK_NB), 0);
+    const auto refused = RunLock::take(file);
+    QVERIFY(!refused && refused.error().isHeld);
 }
 
 void TestRunJournal::aProjectInAFolderThatMayNotBeWrittenIsLockedElsewhere()

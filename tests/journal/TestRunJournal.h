@@ -32,6 +32,7 @@ private Q_SLOTS:
     void aProjectThatAnotherProcessRunsIsRefused();
     void aPausedProjectThatAnotherProcessRunsIsNotResumedLater();
     void theLockOfAProcessThatIsGoneIsTakenOver();
+    void aLockWhoseProcessDiedBeforeItSaidSoIsTakenOver();
     void aProjectInAFolderThatMayNotBeWrittenIsLockedElsewhere();
     void aPausedRunKeepsItsLockAndAStoppedOneDoesNot();
     void aStoppedRunKeepsItsLockUntilTheProjectIsSaved();
