@@ -4,6 +4,7 @@
 #include "ui/FileDrops.h"
 #include "ui/Pictures.h"
 #include "ui/RecipientModel.h"
+#include "ui/RunProgress.h"
 #include "ui/frmAbout.h"
 #include "ui/frmEditor.h"
 #include "ui/frmPreview.h"
@@ -45,6 +46,7 @@ frmMain::frmMain(const WindowParts &parts)
       m_recovery(parts.recovery),
       m_place(parts.placeFile),
       m_recipients(new RecipientModel(m_workspace.recipients, this)),
+      m_progress(new RunProgress(m_form, m_workspace.engine, *m_ui->progress)),
       m_binding(m_form, *this),
       m_runBar(parts.runBar),
       m_reports(parts.reports),
@@ -68,7 +70,6 @@ frmMain::frmMain(const WindowParts &parts)
     applyRunState();
 
     connect(&m_form, &Form::runStateChanged, this, &frmMain::applyRunState);
-    connect(&m_form, &Form::situationChanged, this, &frmMain::showProgress);
     connect(&m_companions, &Companions::wanted, this, &frmMain::goTo);
     connect(&m_form, &Form::captionChanged, this, [this] { setWindowTitle(m_form.caption()); });
     m_lifecycle.beforeUnload = [this, &journal = parts.journal] {
@@ -225,7 +226,7 @@ void frmMain::bindLists()
     connect(m_recipients, &RecipientModel::itemChecked, this, [&w](int position, bool checked) {
         w.recipientCommands.lstDestinatari_ItemCheck(position, checked);
     });
-    connect(m_recipients, &RecipientModel::published, this, &frmMain::showProgress);
+    connect(m_recipients, &RecipientModel::published, m_progress, &RunProgress::show);
     connect(&view, &RecipientView::headingClicked, this,
             [&w](int place) { w.recipientCommands.lstDestinatari_ColumnClick(place); });
     // Keys and menu of the lists press the buttons, so that they can do no more than these.
@@ -307,24 +308,6 @@ void frmMain::applyRunState()
     const bool isPaused = m_form.runState() == RunState::Paused;
     m_ui->cmdPausa->setText(m_form.tag(Control::cmdPausa));
     m_ui->cmdPausa->setIcon(Pictures::icon(isPaused ? "resume" : "pause"));
-    showProgress();
-}
-
-// An idle window keeps what the last run of its project reached.
-void frmMain::showProgress()
-{
-    const bool isRunning = m_form.runState() != RunState::Idle;
-    const bool wasRunning = std::exchange(m_showsRun, isRunning);
-    const quint32 project = m_form.situation().project;
-    const bool isAnother = std::exchange(m_progressProject, project) != project;
-    if (!isRunning && !wasRunning && !isAnother)
-        return;
-    const Progress progress = isRunning || wasRunning ? m_workspace.engine.progress() : Progress();
-    m_ui->progress->setMaximum(qMax(1, progress.total));
-    m_ui->progress->setValue(progress.done);
-    m_ui->progress->setFormat(
-        progress.total == 0 ? QString()
-                            : QStringLiteral("%1 / %2").arg(progress.done).arg(progress.total));
 }
 
 void frmMain::openHelpPage(const QString &page)

@@ -14,6 +14,7 @@
 
 class QLineEdit;
 class RecipientModel;
+class RunProgress;
 class frmPreview;
 
 namespace Ui {
@@ -47,7 +48,6 @@ private:
     void bindDrops();
     void command(Control control, std::function<void()> procedure);
     void applyRunState();
-    void showProgress();
 
     void mnuEditor_Click();
     void mnuAbout_Click();
@@ -70,14 +70,13 @@ private:
     Recovery &m_recovery;
     WindowPlace m_place;
     RecipientModel *m_recipients;
+    RunProgress *m_progress;
     FormBinding m_binding;
     RunBar &m_runBar;
     ReportCommands &m_reports;
     const CodePage &m_codePage;
     frmPreview *m_preview = nullptr; ///< made when it is first wanted
     bool m_hasPlace = false;
-    quint32 m_progressProject = 0; ///< the project whose progress is shown
-    bool m_showsRun = false;
 };
 
 /// The same window with Italian texts.

@@ -320,6 +320,31 @@ void TestRunJournal::aDiskThatFailsPausesTheRun()
     QCOMPARE(j.rig->smtp.sent.size(), 2);
 }
 
+// What is open stays open: the run itself goes on.
+void TestRunJournal::aFolderThatMayNoLongerBeWrittenLetsAPausedRunStand()
+{
+    JournalRig j;
+    setMode(j.folder.path(), Writable);
+    j.rig->startSending();
+    setMode(j.path(u"Runs"_s), ReadOnly);
+    {
+        const AsNobody nobody;
+        j.rig->finishMessage();
+        QCOMPARE(j.rig->smtp.sent.size(), 2);
+        j.pauseOrResume();
+        j.rig->smtp.raiseDone(true, {Taken});
+        const QByteArray before = j.record();
+        j.pauseOrResume();
+        QCOMPARE(j.rig->w.form.runState(), RunState::Paused);
+        QVERIFY(j.rig->prompts.takeNotices().value(0).detail.contains(j.records().front()));
+        QCOMPARE(j.record(), before);
+    }
+    setMode(j.path(u"Runs"_s), Writable);
+    QCOMPARE(recordedStates(j), QStringList({u"Sent"_s, u"Sent"_s, u"Waiting"_s, u"Waiting"_s}));
+    j.pauseOrResume();
+    QCOMPARE(j.rig->w.form.runState(), RunState::Waiting);
+}
+
 void TestRunJournal::aFolderThatMayNotBeWrittenLetsNoRunStart()
 {
     JournalRig j;

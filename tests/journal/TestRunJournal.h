@@ -27,6 +27,7 @@ private Q_SLOTS:
     void aRunThatWasStoppedMeanwhileDoesNotGoOn();
     void aFullDiskPausesTheRunAndResumeGoesOn();
     void aDiskThatFailsPausesTheRun();
+    void aFolderThatMayNoLongerBeWrittenLetsAPausedRunStand();
     void aFolderThatMayNotBeWrittenLetsNoRunStart();
 
     void aProjectThatAnotherProcessRunsIsRefused();
