@@ -542,6 +542,10 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
         <source>No Name</source>
         <translation>Senza Nome</translation>
     </message>
+    <message>
+        <source>Another program has changed this project&apos;s file since it was opened here. Open it again, or save this one under another name.</source>
+        <translation>Un altro programma ha cambiato il file di questo progetto da quando è stato aperto qui. Riaprirlo, oppure salvare questo con un altro nome.</translation>
+    </message>
 </context>
 <context>
     <name>ProjectFile</name>
@@ -765,6 +769,14 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
         <source>What became of a run of %1 has not been seen yet:</source>
         <translation>L&apos;esito di un invio di %1 non è ancora stato visto:</translation>
     </message>
+    <message>
+        <source>The record of a run cannot be read: who was sent the message is not known from it. It stays where it is until it is deleted.</source>
+        <translation>La registrazione di un invio non è leggibile: da essa non si sa chi ha ricevuto il messaggio. Resta dov&apos;è finché non viene eliminata.</translation>
+    </message>
+    <message>
+        <source>A run of %1 did not reach everybody:</source>
+        <translation>Un invio di %1 non ha raggiunto tutti:</translation>
+    </message>
 </context>
 <context>
     <name>Report</name>
@@ -939,10 +951,6 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
         <translation>Invio</translation>
     </message>
     <message>
-        <source>This project was being run by another program when it was opened here. Open it again to see how far that run came.</source>
-        <translation>Un altro programma stava inviando questo progetto quando è stato aperto qui. Riaprirlo per vedere fin dove è arrivato quell&apos;invio.</translation>
-    </message>
-    <message>
         <source>The run cannot be recorded, and is not started.</source>
         <translation>L&apos;invio non può essere registrato e non viene avviato.</translation>
     </message>
@@ -969,6 +977,14 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <message>
         <source>Another program is running this project, or has a run of it that is not saved yet: process %1 on %2. It cannot be run twice at the same time.</source>
         <translation>Un altro programma sta inviando questo progetto, o ne ha un invio non ancora salvato: processo %1 su %2. Non può essere inviato due volte contemporaneamente.</translation>
+    </message>
+    <message>
+        <source>How far that run came is known on %1 alone: it can be gone on with there. If that does not matter any more, delete the file %2.</source>
+        <translation>Fin dove è arrivato quell&apos;invio si sa soltanto su %1, dove può proseguire. Se non importa più, eliminare il file %2.</translation>
+    </message>
+    <message>
+        <source>Another program has run this project, or changed its file, since it was opened here. Open it again to see how far it came.</source>
+        <translation>Un altro programma ha inviato questo progetto, o ne ha cambiato il file, da quando è stato aperto qui. Riaprirlo per vedere fin dove è arrivato.</translation>
     </message>
 </context>
 <context>

@@ -57,7 +57,7 @@ bool writeWhole(QSaveFile &file, const QByteArray &content)
 void syncFolderOf(const QString &file)
 {
 #ifndef Q_OS_WIN
-    const QByteArray folder = QFile::encodeName(QFileInfo(file).absolutePath());
+    const QByteArray folder = QFile::encodeName(QFileInfo(file).canonicalPath());
     const int descriptor = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0)
         return;

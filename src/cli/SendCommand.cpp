@@ -44,9 +44,17 @@ SendCommand::~SendCommand()
 
 void SendCommand::start()
 {
-    if (const auto left = m_recovery.leftRunOf(m_options.project); left && !m_options.again) {
-        startAfter(*left);
-        return;
+    if (const auto left = m_recovery.leftRunOf(m_options.project)) {
+        if (left->holder) {
+            m_journal.sayHeld(*left->holder);
+            finish(ExitCode::Refused);
+            return;
+        }
+        if (!m_options.again) {
+            startAfter(*left);
+            return;
+        }
+        m_journal.supersede(left->file);
     }
     switch (m_workspace.projectCommands.open(m_options.project)) {
     case LoadOutcome::Refused:
@@ -71,7 +79,7 @@ void SendCommand::start()
 void SendCommand::startAfter(const LeftRun &left)
 {
     const Totals totals = left.record.totals();
-    const bool isUnfinished = totals.waiting > 0;
+    const bool isUnfinished = left.record.canContinue();
     if (m_options.goOn && isUnfinished) {
         m_recovery.continueRun(left);
         resume();

@@ -27,7 +27,11 @@ tl::expected<void, FileError> JournalFile::begin(const QByteArray &content)
     m_file = std::move(*file);
     m_unwritten.clear();
     m_diskFault.reset();
-    m_oldestWaiting.reset(); // all that was known is in the content
+    // All that was known is in the content.
+    ++m_content;
+    m_isSyncing = false;
+    m_oldestUnderWay.reset();
+    m_oldestWaiting.reset();
     return {};
 }
 
@@ -35,14 +39,19 @@ tl::expected<void, FileError> JournalFile::append(const QByteArray &line)
 {
     if (!m_file) // left behind, and nothing goes on in it
         return {};
-    m_unwritten += line;
     if (m_diskFault)
         return tl::unexpected(*m_diskFault);
-    if (auto appended = m_file->append(m_unwritten); !appended)
+    if (auto appended = m_file->append(m_unwritten + line); !appended)
         return appended;
     m_unwritten.clear();
     noteUnsynced();
     return {};
+}
+
+void JournalFile::appendNowOrLater(const QByteArray &line)
+{
+    if (!append(line))
+        m_unwritten += line;
 }
 
 void JournalFile::noteUnsynced()
@@ -57,8 +66,8 @@ void JournalFile::noteUnsynced()
 void JournalFile::sync()
 {
     m_isSyncing = true;
-    const auto call = [file = weak_from_this()](auto then) {
-        if (const auto alive = file.lock())
+    const auto call = [file = weak_from_this(), content = m_content](auto then) {
+        if (const auto alive = file.lock(); alive && alive->m_content == content)
             then(*alive);
     };
     m_sync.begin(

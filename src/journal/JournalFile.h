@@ -21,9 +21,12 @@ public:
 
     /// Puts this content in the place of the file's, on the disk, and appends to it from now on.
     [[nodiscard]] tl::expected<void, FileError> begin(const QByteArray &content);
-    /// Nothing is appended any more once something could not be written: behind a gap in the
-    /// record nobody could rely on it. The lines that failed come with the next try.
+    /// Appends a line, behind those that found no room before. Nothing is appended any more once
+    /// the disk has failed: behind a gap nobody could rely on the record.
     [[nodiscard]] tl::expected<void, FileError> append(const QByteArray &line);
+    /// Appends a line that tells of something that has happened: when it finds no room it comes
+    /// with the next one.
+    void appendNowOrLater(const QByteArray &line);
     /// Whether everything appended has been on the disk for all but the last moment.
     [[nodiscard]] bool isCaughtUp() const;
     /// Called once when it has caught up, or when the disk has failed.
@@ -42,6 +45,7 @@ private:
     std::optional<AppendedFile> m_file;
     QByteArray m_unwritten;
     std::optional<FileError> m_diskFault;
+    int m_content = 0; ///< changes with each beginning: what a job for an earlier one says is past
     bool m_isSyncing = false;
     // Ticks of the oldest lines that are perhaps not on the disk: of those that the job under way
     // counts, and of those that wait for the next.

@@ -16,17 +16,34 @@ Recovery::Recovery(RunJournal &journal, ProjectCommands &commands, const Form &f
 
 std::optional<LeftRun> Recovery::take(const QString &file) const
 {
-    auto lock = m_journal.lockOf(file);
-    if (!lock && lock.error().isHeld)
-        return std::nullopt;
     const auto content = readWholeFile(file);
-    if (!content)
-        return std::nullopt;
-    auto record = readRun(*content, m_journal.codePage(), m_form.language());
+    auto record =
+        content ? readRun(*content, m_journal.codePage(), m_form.language()) : std::nullopt;
     if (!record)
         return std::nullopt;
+    LeftRun run;
+    run.file = file;
+    run.record = std::move(*record);
     // Where no lock can be made, nothing can be recorded either: it can be looked at.
-    return LeftRun{file, std::move(*record), lock ? *lock : nullptr};
+    const auto keep = [&run](RunJournal::Locked locked, std::shared_ptr<RunLock> &lock) {
+        if (locked)
+            lock = std::move(*locked);
+        else if (locked.error().isHeld)
+            run.holder = locked.error();
+    };
+    keep(m_journal.lockOf(file), run.lock);
+    if (!run.holder)
+        keep(m_journal.lockOfProject(run.record.projectPath), run.projectLock);
+    return run;
+}
+
+// The window's own run may have come further while the question was open.
+LeftRun Recovery::readAgain(const LeftRun &run) const
+{
+    LeftRun again = run;
+    if (auto fresh = take(run.file))
+        again.record = std::move(fresh->record);
+    return again;
 }
 
 std::optional<LeftRun> Recovery::leftRunOf(const QString &path) const
@@ -49,8 +66,11 @@ void Recovery::atStart()
 void Recovery::askAboutNext(QStringList files)
 {
     while (!files.isEmpty()) {
-        const auto run = take(files.takeFirst());
-        if (run && run->record.hasBegun()) {
+        const QString file = files.takeFirst();
+        const auto run = take(file);
+        if (!run)
+            sayUnreadable(file);
+        if (run && !run->holder && run->record.hasBegun()) {
             ask(*run, [this, files] { askAboutNext(files); });
             return;
         }
@@ -59,23 +79,42 @@ void Recovery::askAboutNext(QStringList files)
 
 void Recovery::beforeOpening(const QString &path, std::function<void()> openFile)
 {
-    if (const auto run = leftRunOf(path))
+    const auto run = leftRunOf(path);
+    if (run && run->holder) {
+        m_journal.sayHeld(*run->holder);
+        return;
+    }
+    if (run) {
         ask(*run, std::move(openFile));
-    else
-        openFile();
+        return;
+    }
+    for (const QString &file : m_journal.folder().files()) {
+        if (projectOfRun(file) == RunJournal::realPath(path) && !take(file))
+            sayUnreadable(file);
+    }
+    openFile();
+}
+
+void Recovery::sayUnreadable(const QString &file)
+{
+    m_prompts.notice({Icon::Critical, tr("Interrupted run"),
+                      tr("The record of a run cannot be read: who was sent the message is not "
+                         "known from it. It stays where it is until it is deleted."),
+                      file});
 }
 
 void Recovery::ask(const LeftRun &run, std::function<void()> onForgotten)
 {
     const QString name = run.record.projectPath.isEmpty() ? tr("a project without a name")
                                                           : fileNameOf(run.record.projectPath);
-    const bool canContinue = run.record.totals().waiting > 0;
+    const bool canContinue = run.record.canContinue();
     Question question;
     question.topic = Topic::InterruptedRun;
     question.buttons = canContinue ? Buttons::ContinueOpenForget : Buttons::OpenForget;
     question.title = tr("Interrupted run");
-    question.text = (canContinue ? tr("A run of %1 was interrupted:")
-                                 : tr("What became of a run of %1 has not been seen yet:"))
+    question.text = (!canContinue        ? tr("What became of a run of %1 has not been seen yet:")
+                     : run.record.isOver ? tr("A run of %1 did not reach everybody:")
+                                         : tr("A run of %1 was interrupted:"))
                         .arg(name) +
                     QLatin1String("\n\n") + summaryOf(run.record, m_form.language()) +
                     QLatin1String(".\n\n");
@@ -95,9 +134,9 @@ void Recovery::ask(const LeftRun &run, std::function<void()> onForgotten)
     };
     m_prompts.ask(question, stands, [this, run, then = std::move(onForgotten)](Answer answer) {
         if (answer == Answer::Continue) {
-            continueRun(run);
+            continueRun(readAgain(run));
         } else if (answer == Answer::OpenAsItIs) {
-            openAsItIs(run);
+            openAsItIs(readAgain(run));
         } else if (answer == Answer::Forget) {
             forget(run);
             then();
@@ -112,21 +151,24 @@ QString Recovery::summaryOf(const RunRecord &record, Language language)
 
 void Recovery::continueRun(const LeftRun &run)
 {
-    m_commands.show(run.record.project, run.record.projectPath);
-    m_journal.adopt(run.file, run.lock, false);
+    show(run, run.record.project);
 }
 
 void Recovery::openAsItIs(const LeftRun &run)
 {
     ProjectData project = run.record.project;
     project.paused = false;
-    // The row that the run appended for the control address belongs to the run alone.
-    const bool hasControlRow = !project.controlAddress.isEmpty() && !project.recipients.empty() &&
-                               project.recipients.back().address == project.controlAddress;
-    if (hasControlRow)
+    // That row belongs to the run alone.
+    if (run.record.hasControlRow())
         project.recipients.pop_back();
+    show(run, project);
+}
+
+void Recovery::show(const LeftRun &run, const ProjectData &project)
+{
+    m_journal.reserve(run.projectLock);
     m_commands.show(project, run.record.projectPath);
-    m_journal.adopt(run.file, run.lock, true);
+    m_journal.adopt(run.file, run.lock, !project.paused);
 }
 
 void Recovery::forget(const LeftRun &run)

@@ -12,12 +12,15 @@
 #include <optional>
 #include <vector>
 
-/// A run that ended with its program. While it lives, no other process can take it.
+/// A run that ended with its program. While it lives, no other process can take it or run its
+/// project.
 struct LeftRun
 {
     QString file; ///< the record's
     RunRecord record;
     std::shared_ptr<RunLock> lock;
+    std::shared_ptr<RunLock> projectLock;
+    std::optional<LockRefusal> holder; ///< the process that has it open: it is not ours to take
 };
 
 /// What to do about runs that a program left behind: found at its next start, or when their project
@@ -32,7 +35,7 @@ public:
 
     /// Asks about each run that was left behind, newest first, until one is shown.
     void atStart();
-    /// The newest run of that project; nothing when there is none, or another process has it open.
+    /// The newest run of that project.
     [[nodiscard]] std::optional<LeftRun> leftRunOf(const QString &path) const;
     /// "578 of 1,450 sent, 3 refused, 2 in doubt, 867 left"
     [[nodiscard]] static QString summaryOf(const RunRecord &record, Language language);
@@ -48,6 +51,9 @@ private:
     void askAboutNext(QStringList files);
     void ask(const LeftRun &run, std::function<void()> onForgotten);
     [[nodiscard]] std::optional<LeftRun> take(const QString &file) const;
+    [[nodiscard]] LeftRun readAgain(const LeftRun &run) const;
+    void show(const LeftRun &run, const ProjectData &project);
+    void sayUnreadable(const QString &file);
 
     RunJournal &m_journal;
     ProjectCommands &m_commands;

@@ -35,7 +35,7 @@ QString RunFolder::newFile(qint64 moment) const
                              .toString(QStringLiteral("yyyyMMdd-HHmmss-zzz"));
     QString name = time + Ending;
     for (int number = 2; folder.exists(name); ++number)
-        name = time + u'-' + QString::number(number) + Ending;
+        name = time + u'_' + QString::number(number) + Ending; // behind the first in the order
     return folder.filePath(name);
 }
 

@@ -4,6 +4,7 @@
 #include "journal/RunRecord.h"
 
 #include <QFileInfo>
+#include <QSysInfo>
 
 #include <algorithm>
 
@@ -44,16 +45,15 @@ QString RunJournal::realPath(const QString &path)
     return canonical.isEmpty() ? info.absoluteFilePath() : canonical;
 }
 
-tl::expected<std::shared_ptr<RunLock>, LockRefusal> RunJournal::lockProject() const
+RunJournal::Locked RunJournal::lockOfProject(const QString &path) const
 {
-    const QString path = m_form.projectPath();
     if (path.isEmpty()) // nobody else can open it
         return nullptr;
     const QString beside = realPath(path);
     const QString standIn = m_folder.standInFor(beside);
-    for (const QString &file : {beside, standIn}) {
-        if (m_projectLock && m_projectLock->file() == file)
-            return m_projectLock;
+    for (const auto &own : {m_projectLock, m_reserved}) {
+        if (own && (own->file() == beside || own->file() == standIn))
+            return own;
     }
     auto lock = RunLock::take(beside);
     // Where nobody may write, at least this machine's own programs know of each other.
@@ -64,31 +64,69 @@ tl::expected<std::shared_ptr<RunLock>, LockRefusal> RunJournal::lockProject() co
 
 bool RunJournal::claim()
 {
-    if (m_staleProject == m_form.situation().project && m_staleProject != 0) {
-        m_prompts.notice({Icon::Exclamation, tr("Run"),
-                          tr("This project was being run by another program when it was opened "
-                             "here. Open it again to see how far that run came.")});
+    auto lock = lockOfProject(m_form.projectPath());
+    if (!lock && lock.error().isHeld) {
+        sayHeld(lock.error());
         return false;
     }
-    auto lock = lockProject();
     if (!lock) {
-        const LockRefusal &refusal = lock.error();
-        QString text = refusal.isHeld
-                           ? tr("Another program is running this project, or has a run of it that "
-                                "is not saved "
-                                "yet: process %1 on %2. It cannot be run twice at the same time.")
-                                 .arg(refusal.process)
-                                 .arg(refusal.host)
-                           : tr("The run cannot be recorded, and is not started.");
-        m_prompts.notice({Icon::Exclamation, tr("Run"), text,
-                          refusal.isHeld
-                              ? tr("If that program is gone, delete the file %1.").arg(refusal.file)
-                              : tr("%1: it cannot be written").arg(refusal.file)});
+        m_prompts.notice({Icon::Critical, tr("Run"),
+                          tr("The run cannot be recorded, and is not started."),
+                          tr("%1: it cannot be written").arg(lock.error().file)});
         return false;
     }
+    if (isOutdated())
+        return false;
     m_projectLock = std::move(*lock);
     m_project = m_form.situation().project;
+    m_isStarting = m_form.runState() == RunState::Idle;
     return true;
+}
+
+void RunJournal::sayHeld(const LockRefusal &holder)
+{
+    const bool isHere = holder.host == QSysInfo::machineHostName();
+    m_prompts.notice(
+        {Icon::Exclamation, tr("Run"),
+         tr("Another program is running this project, or has a run of it that is not saved yet: "
+            "process %1 on %2. It cannot be run twice at the same time.")
+             .arg(holder.process)
+             .arg(holder.host),
+         isHere ? tr("If that program is gone, delete the file %1.").arg(holder.file)
+                : tr("How far that run came is known on %1 alone: it can be gone on with there. If "
+                     "that does not matter any more, delete the file %2.")
+                      .arg(holder.host, holder.file)});
+}
+
+// What this window shows may be older than what another program has done since: a run that started
+// from it would mail people again.
+bool RunJournal::isOutdated()
+{
+    const bool ranElsewhere = m_staleProject != 0 && m_staleProject == m_form.situation().project;
+    if (ranElsewhere || hasRunOfAnotherProgram() || m_projectFile.isChangedOnDisk()) {
+        m_prompts.notice({Icon::Exclamation, tr("Run"),
+                          tr("Another program has run this project, or changed its file, since it "
+                             "was opened here. Open it again to see how far it came.")});
+        return true;
+    }
+    return false;
+}
+
+bool RunJournal::hasRunOfAnotherProgram() const
+{
+    const QString path = m_form.projectPath();
+    if (path.isEmpty())
+        return false;
+    const QStringList files = m_folder.files();
+    return std::any_of(files.begin(), files.end(), [&](const QString &file) {
+        if (file == this->file() || m_superseded.contains(file) ||
+            projectOfRun(file) != realPath(path))
+            return false;
+        const auto content = readWholeFile(file);
+        const auto record =
+            content ? readRun(*content, m_codePage, m_form.language()) : std::nullopt;
+        return record && record->hasBegun();
+    });
 }
 
 // Nothing is said yet: whoever only looks at the project is not disturbed.
@@ -96,7 +134,7 @@ void RunJournal::pausedRunOpened()
 {
     m_isOver = false;
     m_project = m_form.situation().project;
-    if (auto lock = lockProject())
+    if (auto lock = lockOfProject(m_form.projectPath()))
         m_projectLock = std::move(*lock);
     else if (lock.error().isHeld)
         m_staleProject = m_project;
@@ -110,7 +148,7 @@ bool RunJournal::begin()
         return false;
     }
     m_isOver = false;
-    m_project = m_form.situation().project;
+    m_isStarting = false;
     removeSuperseded();
     return true;
 }
@@ -145,15 +183,9 @@ tl::expected<void, FileError> RunJournal::openFile()
     return {};
 }
 
-// What an earlier run of this project has left behind is history once the user has started another.
-void RunJournal::removeSuperseded() const
+void RunJournal::removeSuperseded()
 {
-    const QString path = m_form.projectPath();
-    if (path.isEmpty())
-        return;
-    for (const QString &file : m_folder.files()) {
-        if (file == m_file->path() || projectOfRun(file) != realPath(path))
-            continue;
+    for (const QString &file : std::exchange(m_superseded, {})) {
         if (const auto lock = RunLock::take(file))
             RunFolder::remove(file);
     }
@@ -163,7 +195,11 @@ bool RunJournal::isCaughtUp()
 {
     if (!m_file || m_file->isCaughtUp())
         return true;
-    m_file->whenCaughtUp([this] { onCaughtUp(); });
+    m_somebodyWaits = true;
+    m_file->whenCaughtUp([this] {
+        m_somebodyWaits = false;
+        onCaughtUp();
+    });
     return false;
 }
 
@@ -199,13 +235,14 @@ void RunJournal::settled(const MessageInFlight &message, const std::vector<RowRe
         lines += RunLines::done(now, positions, results[first].outcome, results[first].reply);
         first = last;
     }
-    static_cast<void>(file->append(lines));
+    file->appendNowOrLater(lines);
 }
 
 void RunJournal::over()
 {
     if (!std::exchange(m_isOver, true) && m_file) {
-        static_cast<void>(m_file->append(RunLines::over(m_clock.milliseconds())));
+        noteWhoIsAccountedFor();
+        m_file->appendNowOrLater(RunLines::over(m_clock.milliseconds()));
         if (!m_hasBegun) // a run that sent nothing has nothing to tell
             discard();
     }
@@ -213,9 +250,17 @@ void RunJournal::over()
         m_projectLock.reset();
 }
 
+// By the check marks with which the run ended: whoever unchecks a row afterwards knows no more
+// about it.
+void RunJournal::noteWhoIsAccountedFor()
+{
+    m_isAccountedFor = totalsOfChecked(m_recipients.rows()).waiting == 0 &&
+                       totalsOf(m_recipients.rows()).inDoubt == 0;
+}
+
 void RunJournal::rowsSeen()
 {
-    if (m_isOver && totalsOfChecked(m_recipients.rows()).isAccountedFor())
+    if (m_isOver && m_isAccountedFor)
         discard();
 }
 
@@ -223,10 +268,12 @@ void RunJournal::rowsSeen()
 void RunJournal::saved()
 {
     const RunState state = m_form.runState();
-    if (state == RunState::Idle || state == RunState::Paused)
+    // A Start that failed has reset the states: they say less than the record.
+    const bool statesTellAll = state == RunState::Idle ? !m_isStarting : state == RunState::Paused;
+    if (statesTellAll)
         discard();
     if (state == RunState::Paused) {
-        if (auto lock = lockProject())
+        if (auto lock = lockOfProject(m_form.projectPath()))
             m_projectLock = std::move(*lock);
     }
 }
@@ -244,6 +291,7 @@ void RunJournal::letGo()
     rowsSeen();
     close();
     m_isOver = true;
+    m_isStarting = false;
 }
 
 void RunJournal::close()
@@ -259,6 +307,10 @@ void RunJournal::discard()
     m_file.reset();
     if (m_isOver)
         m_projectLock.reset();
+    // There is nothing to wait for any more.
+    if (std::exchange(m_somebodyWaits, false))
+        QMetaObject::invokeMethod(
+            this, [this] { onCaughtUp(); }, Qt::QueuedConnection);
 }
 
 void RunJournal::adopt(const QString &file, std::shared_ptr<RunLock> lock, bool isOver)
@@ -267,9 +319,12 @@ void RunJournal::adopt(const QString &file, std::shared_ptr<RunLock> lock, bool 
     m_isOver = isOver;
     m_hasBegun = true;
     m_project = m_form.situation().project;
+    m_projectLock = std::exchange(m_reserved, nullptr);
+    if (isOver)
+        noteWhoIsAccountedFor();
 }
 
-tl::expected<std::shared_ptr<RunLock>, LockRefusal> RunJournal::lockOf(const QString &file) const
+RunJournal::Locked RunJournal::lockOf(const QString &file) const
 {
     for (const auto &own : {m_file, m_messageFile}) {
         if (own && own->path() == file)

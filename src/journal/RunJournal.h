@@ -56,14 +56,22 @@ public:
 
     /// The file of this run, or of the last one while it is kept; empty without one.
     [[nodiscard]] QString file() const { return m_file ? m_file->path() : QString(); }
+    using Locked = tl::expected<std::shared_ptr<RunLock>, LockRefusal>;
+
+    /// The lock of a file in the folder of runs; this run's own is shared.
+    [[nodiscard]] Locked lockOf(const QString &file) const;
+    /// The lock of a project; this run's own is shared. Nothing for a project without a name.
+    [[nodiscard]] Locked lockOfProject(const QString &path) const;
+    /// The project that is shown next is locked already.
+    void reserve(std::shared_ptr<RunLock> projectLock) { m_reserved = std::move(projectLock); }
     /// Takes over the file of a run that was left behind and is shown now.
     void adopt(const QString &file, std::shared_ptr<RunLock> lock, bool isOver);
-    /// The lock of a file in the folder of runs; this run's own is shared.
-    [[nodiscard]] tl::expected<std::shared_ptr<RunLock>, LockRefusal>
-    lockOf(const QString &file) const;
-
+    /// The user knows of that file and wants another run: the next one to begin replaces it.
+    void supersede(const QString &file) { m_superseded.append(file); }
     /// Deletes a file that was left behind.
     void forget(const QString &file);
+    /// Says which process has the run, or the project.
+    void sayHeld(const LockRefusal &holder);
     /// The one name of a project's file, however it is written.
     [[nodiscard]] static QString realPath(const QString &path);
 
@@ -71,9 +79,11 @@ public:
     [[nodiscard]] const CodePage &codePage() const { return m_codePage; }
 
 private:
-    [[nodiscard]] tl::expected<std::shared_ptr<RunLock>, LockRefusal> lockProject() const;
+    [[nodiscard]] bool isOutdated();
+    [[nodiscard]] bool hasRunOfAnotherProgram() const;
     [[nodiscard]] tl::expected<void, FileError> openFile();
-    void removeSuperseded() const;
+    void removeSuperseded();
+    void noteWhoIsAccountedFor();
     void saved();
     void situationChanged();
     void letGo();
@@ -94,8 +104,13 @@ private:
     std::shared_ptr<RunLock> m_projectLock;
     std::shared_ptr<JournalFile> m_file;
     std::shared_ptr<JournalFile> m_messageFile; ///< where the message in flight stands
+    std::shared_ptr<RunLock> m_reserved;
+    QStringList m_superseded;
     bool m_isOver = true;
-    bool m_hasBegun = false;    ///< a message was handed over
-    quint32 m_project = 0;      ///< the number of the project whose run this is
-    quint32 m_staleProject = 0; ///< one that another process ran when it was opened here
+    bool m_isAccountedFor = true; ///< nobody was waiting or in doubt when the run was over
+    bool m_isStarting = false;    ///< the rows' states are reset, and the run has not begun
+    bool m_somebodyWaits = false; ///< until the disk has caught up
+    bool m_hasBegun = false;      ///< a message was handed over
+    quint32 m_project = 0;        ///< the number of the project whose run this is
+    quint32 m_staleProject = 0;   ///< one that another process ran when it was opened here
 };

@@ -138,6 +138,7 @@ std::optional<RunLines::Line> RunLines::Reader::next()
         const bool isWhole =
             whole.size() > ChecksumDigits && whole[ChecksumDigits] == ' ' &&
             checksumOf(whole.sliced(ChecksumDigits + 1)) == whole.first(ChecksumDigits);
+        m_lastWasBroken = !isWhole;
         if (!isWhole) {
             m_sawBroken = true;
             continue;
@@ -171,7 +172,8 @@ std::vector<int> RunLines::positionsOf(const QString &field, int rows)
     for (const QString &range : field.split(u',')) {
         const auto first = wholeNumber(range.section(u'-', 0, 0), 1, rows);
         const auto last = wholeNumber(range.section(u'-', -1), 1, rows);
-        if (!first || !last)
+        const bool fits = first && last && *last - *first < rows - qint64(positions.size());
+        if (!fits)
             return {};
         for (qint64 position = *first; position <= *last; ++position)
             positions.push_back(static_cast<int>(position));

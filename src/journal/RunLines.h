@@ -51,12 +51,15 @@ public:
     [[nodiscard]] std::optional<Line> next();
     /// Whether one was, so far.
     [[nodiscard]] bool sawBroken() const { return m_sawBroken; }
+    /// Whether one stands behind the last whole line.
+    [[nodiscard]] bool lastWasBroken() const { return m_lastWasBroken; }
 
 private:
     [[nodiscard]] bool takeProject(Line &line);
 
     QByteArrayView m_rest;
     bool m_sawBroken = false;
+    bool m_lastWasBroken = false;
 };
 
 /// The positions of a field in a list of so many rows; none when it holds anything else.

@@ -94,8 +94,10 @@ public:
 
     /// The rows that no line accounts for. A run goes through the list in order: what lies before
     /// the place where it goes on was passed over, or else was handed over in a line that is lost.
-    void finish()
+    void finish(bool lastWasBroken)
     {
+        if (lastWasBroken)
+            doubtNextMessage();
         const int end = std::min(m_project.nextRecipientIndex - 1, count());
         for (int position = m_firstRow; position <= end; ++position) {
             Recipient &row = rowAt(position);
@@ -124,6 +126,22 @@ private:
         row.state = stateWord(stateAfter(outcome), m_language);
     }
 
+    // The line that is lost may be that of a message behind all others that are known.
+    void doubtNextMessage()
+    {
+        const int size = m_project.multiSend ? leadingNumber(m_project.messagesPerPacket) : 1;
+        int taken = 0;
+        int position = m_project.nextRecipientIndex;
+        for (; position >= 1 && position <= count() && taken < size; ++position) {
+            Recipient &row = rowAt(position);
+            if (!row.checked || stateOfWord(row.state) != RowState::Waiting)
+                continue;
+            set(row, Outcome::InDoubt);
+            ++taken;
+        }
+        m_project.nextRecipientIndex = position;
+    }
+
     void takeField(const QStringList &fields)
     {
         if (fields.value(0) == AttachmentField)
@@ -144,7 +162,7 @@ private:
             if (attempt.outcome == Outcome::InFlight)
                 attempt.outcome = Outcome::InDoubt;
             attempt.time = fields.value(2).toLongLong();
-            attempt.tries = leadingNumber(fields.value(3));
+            attempt.tries = std::clamp(leadingNumber(fields.value(3)), 0, MostTries);
             attempt.identifier = fields.value(4);
             attempt.reply = RunLines::replyOf(fields, 5);
         }
@@ -172,6 +190,9 @@ private:
             return;
         for (const int position : positions(fields.value(1))) {
             Recipient &row = rowAt(position);
+            // Its "send" may be among the lines that are lost.
+            if (position >= m_project.nextRecipientIndex && outcome != Outcome::NotTaken)
+                m_project.nextRecipientIndex = positionAfter(m_project.recipients, position);
             row.attempt.time = fields.value(0).toLongLong();
             row.attempt.reply = RunLines::replyOf(fields, 3);
             set(row, outcome);
@@ -179,6 +200,8 @@ private:
                 m_project.nextRecipientIndex = std::min(m_project.nextRecipientIndex, position);
         }
     }
+
+    static constexpr int MostTries = 1'000'000;
 
     RunRecord &m_record;
     ProjectData &m_project;
@@ -192,6 +215,28 @@ bool RunRecord::hasBegun() const
 {
     return std::any_of(project.recipients.begin(), project.recipients.end(),
                        [](const Recipient &row) { return row.attempt.tries > 0; });
+}
+
+bool RunRecord::hasControlRow() const
+{
+    return !project.controlAddress.isEmpty() && !project.recipients.empty() &&
+           project.recipients.back().address == project.controlAddress;
+}
+
+Totals RunRecord::totals() const
+{
+    Totals totals;
+    const auto end = project.recipients.end() - (hasControlRow() ? 1 : 0);
+    for (auto row = project.recipients.begin(); row != end; ++row) {
+        if (row->checked)
+            totals.count(*row);
+    }
+    return totals;
+}
+
+bool RunRecord::canContinue() const
+{
+    return totalsOfChecked(project.recipients).waiting > 0;
 }
 
 QByteArray encodeRun(const RunRecord &record, const CodePage &codePage)
@@ -229,7 +274,7 @@ std::optional<RunRecord> readRun(QByteArrayView content, const CodePage &codePag
     Replay replay(record, language);
     while (const auto line = reader.next())
         replay.take(*line);
-    replay.finish();
+    replay.finish(reader.lastWasBroken());
     record.isDamaged = reader.sawBroken();
     return record;
 }

@@ -18,8 +18,12 @@ struct RunRecord
     bool isDamaged =
         false; ///< something in it could not be read; what may have been sent counts so
 
-    /// Of the rows that the run means.
-    [[nodiscard]] Totals totals() const { return totalsOfChecked(project.recipients); }
+    /// Of the rows that the run means, without the one it appended for the control address.
+    [[nodiscard]] Totals totals() const;
+    /// Whether anybody is left, or the control address.
+    [[nodiscard]] bool canContinue() const;
+    /// Whether the last row is the one for the control address.
+    [[nodiscard]] bool hasControlRow() const;
     /// Whether a message was handed over at all.
     [[nodiscard]] bool hasBegun() const;
 };

@@ -114,7 +114,7 @@ void ProjectCommands::chooseProject()
     });
 }
 
-void ProjectCommands::openAsking(const QString &path, std::function<void()> openFile)
+void ProjectCommands::openAsking(const QString &path, std::function<void()> openFile) const
 {
     if (beforeOpening)
         beforeOpening(path, std::move(openFile));
@@ -154,6 +154,15 @@ void ProjectCommands::save(std::function<void(SaveOutcome)> then)
 {
     if (m_form.projectPath().isEmpty()) {
         saveAs(std::move(then));
+        return;
+    }
+    // What another program has written is perhaps how far it came with sending.
+    if (m_file.isChangedOnDisk()) {
+        m_prompts.notice({Icon::Critical, tr("Save"),
+                          tr("Another program has changed this project's file since it was opened "
+                             "here. Open it again, or save this one under another name."),
+                          m_form.projectPath()});
+        then(SaveOutcome::Failed);
         return;
     }
     m_file.SaveProject(m_form.projectPath(), [then = std::move(then)](bool saved) {

@@ -52,7 +52,7 @@ public:
     /// Shows a project that was read from elsewhere, in the same way.
     LoadOutcome show(const ProjectData &project, const QString &path);
     /// Opens a project for somebody who can be asked about it first.
-    void openAsking(const QString &path, std::function<void()> openFile);
+    void openAsking(const QString &path, std::function<void()> openFile) const;
     void UpdateCaption();
 
     /// Asks what stands in the way of opening that file, then calls openFile, or does not. What is

@@ -2,6 +2,8 @@
 
 #include "base/modMain.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 ProjectFile::ProjectFile(Form &form, RecipientList &recipients, Attachments &attachments,
@@ -44,6 +46,21 @@ ProjectData ProjectFile::collect(bool paused) const
                       [this](const Recipient &row) { return row.id == m_engine.controlRow(); });
     }
     return project;
+}
+
+ProjectFile::Stamp ProjectFile::stampOf(const QString &path)
+{
+    const QFileInfo info(systemPath(path));
+    return {path, info.lastModified(), info.exists() ? info.size() : -1};
+}
+
+bool ProjectFile::isChangedOnDisk() const
+{
+    const QString path = m_form.projectPath();
+    if (path.isEmpty() || path != m_stamp.path)
+        return false;
+    const Stamp now = stampOf(path);
+    return now.size >= 0 && now != m_stamp;
 }
 
 ProjectData ProjectFile::pausedProject() const
@@ -104,6 +121,7 @@ void ProjectFile::write(const WaitingSave &save)
         replaceWholeFile(save.path, m_codePage.encode(encodeProject(save.project)));
     if (written) {
         m_form.setProjectPath(save.path);
+        m_stamp = stampOf(save.path);
         m_AppLog.WriteMessage(QLatin1String("Project file '") + save.path +
                               QLatin1String("' saved"));
         if (onSaved)
@@ -120,6 +138,7 @@ LoadOutcome ProjectFile::LoadProject(const QString &path)
         m_prompts.notice({Icon::Critical, tr("Open"), tr("Unable to load the specified file!"),
                           FileError{path, reason}.toText()});
     };
+    const Stamp stamp = stampOf(path);
     const auto content = readWholeFile(path);
     if (!content) {
         refuse(content.error().reason);
@@ -137,7 +156,9 @@ LoadOutcome ProjectFile::LoadProject(const QString &path)
         refuse(tr("it ends inside a recipient; the recipients before it were loaded"));
         return LoadOutcome::LoadedInPart;
     }
-    return show(*project, path);
+    const LoadOutcome outcome = show(*project, path);
+    m_stamp = stamp;
+    return outcome;
 }
 
 LoadOutcome ProjectFile::show(const ProjectData &project, const QString &path)
@@ -145,6 +166,7 @@ LoadOutcome ProjectFile::show(const ProjectData &project, const QString &path)
     m_form.countProjectReplaced();
     fillForm(project);
     m_form.setProjectPath(path);
+    m_stamp = stampOf(path);
     m_form.setProjectModified(true);
     if (project.paused) {
         restorePausedRun();

@@ -12,6 +12,7 @@
 #include "sending/SendingEngine.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 
 #include <functional>
 #include <optional>
@@ -41,6 +42,8 @@ public:
     LoadOutcome LoadProject(const QString &path);
     /// Shows a project that was read from elsewhere as that of this path (empty: it has no name).
     LoadOutcome show(const ProjectData &project, const QString &path);
+    /// Whether another program has written the project's file since it was loaded or saved here.
+    [[nodiscard]] bool isChangedOnDisk() const;
     /// The project as it would be saved in a pause: the control row is in it, and the cursor lies
     /// past a message whose result is not known.
     [[nodiscard]] ProjectData pausedProject() const;
@@ -60,6 +63,17 @@ private:
         std::function<void(bool)> then;
     };
 
+    /// What a file looked like, to know it again without reading it.
+    struct Stamp
+    {
+        QString path;
+        QDateTime modified;
+        qint64 size = 0;
+
+        bool operator==(const Stamp &) const = default;
+    };
+
+    [[nodiscard]] static Stamp stampOf(const QString &path);
     [[nodiscard]] ProjectData collect(bool paused) const;
     void fillForm(const ProjectData &project);
     void restorePausedRun();
@@ -75,4 +89,5 @@ private:
     CLog &m_AppLog;
     const CodePage &m_codePage;
     std::optional<WaitingSave> m_waiting;
+    Stamp m_stamp; ///< the project's file, as it was last loaded or saved
 };

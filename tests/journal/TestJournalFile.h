@@ -24,6 +24,7 @@ private Q_SLOTS:
     void aDiskThatFailsIsSaidWithTheNextLine();
     void aLineThatFoundNoRoomComesWithTheNext();
     void aFileBegunAnewHoldsNothingElse();
+    void whatTheDiskSaysOfAnEarlierContentIsPast();
     void theRealDiskDoesItsJobInAnotherThread();
 
 private:

@@ -217,7 +217,7 @@ void TestRecovery::aDamagedRecordIsSaidToBeDamaged()
     QVERIFY(j.rig->prompts.questions.constLast().text.contains(u"damaged"_s));
 }
 
-void TestRecovery::aRecordThatCannotBeReadStaysAndIsNotAskedAbout()
+void TestRecovery::aRecordThatCannotBeReadIsSaidAndStays()
 {
     JournalRig j;
     killInTheMiddle(j);
@@ -225,19 +225,63 @@ void TestRecovery::aRecordThatCannotBeReadStaysAndIsNotAskedAbout()
     writeFile(file, j.record().first(200));
     QVERIFY(!j.recovery->leftRunOf(j.path()));
     j.recovery->atStart();
+    QCOMPARE(j.rig->prompts.takeNotices().value(0).detail, file);
+    j.rig->w.projectCommands.openAsking(j.path(), [] {});
+    QCOMPARE(j.rig->prompts.takeNotices().value(0).detail, file);
     QVERIFY(j.rig->prompts.questions.isEmpty());
     QVERIFY(QFile::exists(file));
 }
 
-void TestRecovery::aRunThatAnotherProcessHasOpenIsNotAskedAbout()
+void TestRecovery::aProjectWhoseRunAnotherProcessHasOpenIsNotOpened()
 {
     JournalRig j;
     killInTheMiddle(j);
     const auto lock = RunLock::take(j.path(u"Runs/"_s + j.records().front()));
     QVERIFY(lock);
-    QVERIFY(!j.recovery->leftRunOf(j.path()));
     j.recovery->atStart();
+    j.rig->w.projectCommands.openAsking(j.path(), [] { QFAIL("it is opened"); });
     QVERIFY(j.rig->prompts.questions.isEmpty());
+    QVERIFY(j.rig->prompts.takeNoticeTexts().value(0).contains(
+        QString::number(QCoreApplication::applicationPid())));
+}
+
+void TestRecovery::nobodyElseRunsAProjectThatIsAskedAboutOrOpenAsItIs()
+{
+    JournalRig j;
+    killInTheMiddle(j);
+    j.rig->prompts.expectAnswer(Topic::InterruptedRun, Answer::OpenAsItIs);
+    j.rig->w.projectCommands.openAsking(j.path(), [] {});
+    QVERIFY(!RunLock::take(j.path()));
+    j.rig->prompts.answerAll();
+    QVERIFY(!RunLock::take(j.path()));
+    j.save();
+    QVERIFY(RunLock::take(j.path()));
+}
+
+void TestRecovery::whatBecameOfTheMessageInFlightBehindTheQuestionCounts()
+{
+    JournalRig j;
+    j.save();
+    j.rig->startSending();
+    j.pauseOrResume();
+    j.rig->prompts.expectAnswer(Topic::InterruptedRun, Answer::Continue);
+    j.rig->w.projectCommands.openAsking(j.path(), [] {});
+    j.rig->smtp.raiseDone(true, {Taken});
+    j.rig->prompts.answerAll();
+    QCOMPARE(j.rig->state(1), u"Sent"_s);
+    QCOMPARE(j.attempt(1).reply, Taken);
+}
+
+void TestRecovery::aRunThatWasStoppedIsNotSaidToHaveBeenInterrupted()
+{
+    JournalRig j;
+    j.save();
+    j.rig->startSending();
+    j.rig->smtp.raiseDone(true, {Taken});
+    j.stop();
+    j.die();
+    j.openAnswering(Answer::Cancel);
+    QVERIFY(j.rig->prompts.questions.constLast().text.contains(u"did not reach everybody"_s));
 }
 
 void TestRecovery::theProjectAtTheCommandLineIsAskedAbout()

@@ -21,8 +21,11 @@ private Q_SLOTS:
     void aRunWithoutAProjectFileIsAskedAboutAtStart();
     void aRunThatSentNothingIsNotAskedAbout();
     void aDamagedRecordIsSaidToBeDamaged();
-    void aRecordThatCannotBeReadStaysAndIsNotAskedAbout();
-    void aRunThatAnotherProcessHasOpenIsNotAskedAbout();
+    void aRecordThatCannotBeReadIsSaidAndStays();
+    void aProjectWhoseRunAnotherProcessHasOpenIsNotOpened();
+    void nobodyElseRunsAProjectThatIsAskedAboutOrOpenAsItIs();
+    void whatBecameOfTheMessageInFlightBehindTheQuestionCounts();
+    void aRunThatWasStoppedIsNotSaidToHaveBeenInterrupted();
     void theProjectAtTheCommandLineIsAskedAbout();
     void aPausedRunOfThisWindowIsAskedAboutWhenItsProjectIsOpenedAgain();
     void aProjectOpenedAgainWhileItsMessageIsInFlightIsAskedAbout();

@@ -379,7 +379,8 @@ void TestRunJournal::aProjectThatAnotherProcessRunsIsRefused()
              "not saved yet: process 4711 on other-pc. It cannot be run twice at "
              "the same time."_s);
     QCOMPARE(notices[0].detail,
-             u"If that program is gone, delete the file %1.lock."_s.arg(j.path()));
+             u"How far that run came is known on other-pc alone: it can be gone on with there. If "
+             "that does not matter any more, delete the file %1.lock."_s.arg(j.path()));
     QCOMPARE(j.rig->state(1), u"Sent"_s);
     QCOMPARE(j.records(), QStringList());
     QFile::remove(j.path() + u".lock"_s);
@@ -405,6 +406,95 @@ void TestRunJournal::aPausedProjectThatAnotherProcessRunsIsNotResumedLater()
     j.rig->w.projectCommands.open(j.path());
     j.pauseOrResume();
     QCOMPARE(j.rig->w.form.runState(), RunState::Waiting);
+}
+
+void TestRunJournal::aProjectThatAnotherProgramRanMeanwhileIsNotStarted()
+{
+    JournalRig j;
+    j.save();
+    j.rig->startSending();
+    j.die(); // as another program would, while this one has the project open
+    j.rig->w.projectCommands.open(j.path());
+    j.rig->start();
+    QCOMPARE(j.rig->w.form.runState(), RunState::Idle);
+    QVERIFY(j.rig->prompts.takeNoticeTexts().value(0).contains(u"Open it again"_s));
+    QCOMPARE(recordedStates(j).front(), u"Sending..."_s);
+    QVERIFY(!isLocked(j.path()));
+}
+
+void TestRunJournal::aProjectWhoseFileWasChangedMeanwhileIsNeitherStartedNorSaved()
+{
+    JournalRig j;
+    j.save();
+    const QByteArray changed =
+        readFile(j.path()) + "5\r\nE\r\ne@example.net\r\nSent\r\n 2 \r\ncheck\r\n";
+    writeFile(j.path(), changed);
+    j.rig->start();
+    QCOMPARE(j.rig->w.form.runState(), RunState::Idle);
+    QVERIFY(j.rig->prompts.takeNoticeTexts().value(0).contains(u"Open it again"_s));
+    j.rig->w.projectCommands.cmdSave_Click();
+    QCOMPARE(j.rig->prompts.takeNotices().value(0).detail, j.path());
+    QCOMPARE(readFile(j.path()), changed);
+    j.rig->w.projectCommands.open(j.path());
+    j.rig->start();
+    QCOMPARE(j.rig->w.form.runState(), RunState::Waiting);
+}
+
+void TestRunJournal::uncheckingWhoIsInDoubtDoesNotAccountForHim()
+{
+    JournalRig j;
+    j.rig->startSending();
+    for (int i = 0; i < 3; ++i)
+        j.rig->finishMessage();
+    j.rig->smtp.raiseError(1, u"broken"_s, true);
+    QCOMPARE(j.rig->prompts.takeNotices().size(), 1);
+    QCOMPARE(j.rig->state(4), u"Sending..."_s);
+    j.rig->uncheck(4);
+    j.journal->rowsSeen();
+    QCOMPARE(j.records().size(), 1);
+}
+
+void TestRunJournal::aStartThatFailsLeavesTheRecordOfTheRunBefore()
+{
+    JournalRig j;
+    j.save();
+    j.rig->startSending();
+    j.rig->smtp.raiseDone(true, {Taken});
+    j.stop();
+    QVERIFY(QFile::remove(j.path(u"message.txt"_s)));
+    j.rig->start();
+    QCOMPARE(j.rig->prompts.takeNotices().size(), 1);
+    QCOMPARE(j.rig->state(1), u"Waiting"_s);
+    // What the file says now is less than what is known.
+    j.save();
+    QCOMPARE(recordedStates(j).front(), u"Sent"_s);
+}
+
+void TestRunJournal::aHandOverThatDidNotComeToPassIsNotRecordedLater()
+{
+    JournalRig j;
+    j.rig->startSending();
+    {
+        const FileSizeLimit full(rlim_t(j.record().size()) + 5);
+        j.rig->finishMessage();
+    }
+    QCOMPARE(j.rig->prompts.takeNotices().size(), 1);
+    j.stop();
+    QCOMPARE(recordedStates(j), QStringList({u"Sent"_s, u"Waiting"_s, u"Waiting"_s, u"Waiting"_s}));
+}
+
+void TestRunJournal::aPauseWhileTheDiskLagsEndsTheSessionWhenItIsSaved()
+{
+    JournalRig j;
+    j.save();
+    j.rig->startSending();
+    j.rig->clock.advanceMilliseconds(51);
+    j.rig->finishMessage();
+    j.pauseOrResume();
+    j.save();
+    j.rig->settle();
+    QCOMPARE(j.rig->smtp.calls.last(), u"Disconnect"_s);
+    QCOMPARE(j.rig->smtp.sent.size(), 1);
 }
 
 void TestRunJournal::theLockOfAProcessThatIsGoneIsTakenOver()

@@ -32,6 +32,12 @@ private Q_SLOTS:
 
     void aProjectThatAnotherProcessRunsIsRefused();
     void aPausedProjectThatAnotherProcessRunsIsNotResumedLater();
+    void aProjectThatAnotherProgramRanMeanwhileIsNotStarted();
+    void aProjectWhoseFileWasChangedMeanwhileIsNeitherStartedNorSaved();
+    void uncheckingWhoIsInDoubtDoesNotAccountForHim();
+    void aStartThatFailsLeavesTheRecordOfTheRunBefore();
+    void aHandOverThatDidNotComeToPassIsNotRecordedLater();
+    void aPauseWhileTheDiskLagsEndsTheSessionWhenItIsSaved();
     void theLockOfAProcessThatIsGoneIsTakenOver();
     void aLockWhoseProcessDiedBeforeItSaidSoIsTakenOver();
     void aProjectInAFolderThatMayNotBeWrittenIsLockedElsewhere();

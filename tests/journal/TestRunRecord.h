@@ -19,6 +19,10 @@ private Q_SLOTS:
     void aRecordCutAtAnyByteIsReadToItsLastWholeLine_data();
     void aRecordCutAtAnyByteIsReadToItsLastWholeLine();
     void aBrokenByteNeverMakesARowSentOrWaitingAgain();
+    void aResultWithoutItsHandOverMovesTheRunOn();
+    void theMessageBehindABrokenEndIsInDoubt();
+    void theControlRowIsNobodyWhoIsCounted();
+    void rangesThatRepeatRowsSayNothing();
     void rowsThatNoLineAccountsForAreInDoubt();
     void positionsBeyondTheListChangeNothing();
     void whatIsNoRecordIsNone_data();
