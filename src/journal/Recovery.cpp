@@ -16,9 +16,7 @@ Recovery::Recovery(RunJournal &journal, ProjectCommands &commands, const Form &f
 
 std::optional<LeftRun> Recovery::take(const QString &file) const
 {
-    const auto content = readWholeFile(file);
-    auto record =
-        content ? readRun(*content, m_journal.codePage(), m_form.language()) : std::nullopt;
+    auto record = m_journal.read(file);
     if (!record)
         return std::nullopt;
     LeftRun run;
@@ -35,15 +33,6 @@ std::optional<LeftRun> Recovery::take(const QString &file) const
     if (!run.holder)
         keep(m_journal.lockOfProject(run.record.projectPath), run.projectLock);
     return run;
-}
-
-// The window's own run may have come further while the question was open.
-LeftRun Recovery::readAgain(const LeftRun &run) const
-{
-    LeftRun again = run;
-    if (auto fresh = take(run.file))
-        again.record = std::move(fresh->record);
-    return again;
 }
 
 std::optional<LeftRun> Recovery::leftRunOf(const QString &path) const
@@ -130,17 +119,24 @@ void Recovery::ask(const LeftRun &run, std::function<void()> onForgotten)
     question.text += tr("\"Open as it is\" shows what became of everybody, without a run.\n"
                         "\"Forget\" throws this record away.");
     const auto stands = [this, project = m_form.situation().project] {
-        return m_form.situation().project == project;
+        return m_form.situation().project == project && m_form.isEnabled(Control::cmdApri);
     };
     m_prompts.ask(question, stands, [this, run, then = std::move(onForgotten)](Answer answer) {
-        if (answer == Answer::Continue) {
-            continueRun(readAgain(run));
-        } else if (answer == Answer::OpenAsItIs) {
-            openAsItIs(readAgain(run));
-        } else if (answer == Answer::Forget) {
+        if (answer == Answer::Cancel)
+            return;
+        // It may be this window's own run: its message was settled while the box was open, or the
+        // project was saved.
+        LeftRun now = run;
+        const auto record = m_journal.read(run.file);
+        now.record = record.value_or(run.record);
+        if (answer == Answer::Forget)
             forget(run);
+        if (answer == Answer::Forget || !record)
             then();
-        }
+        else if (answer == Answer::Continue)
+            continueRun(now);
+        else
+            openAsItIs(now);
     });
 }
 

@@ -51,7 +51,6 @@ private:
     void askAboutNext(QStringList files);
     void ask(const LeftRun &run, std::function<void()> onForgotten);
     [[nodiscard]] std::optional<LeftRun> take(const QString &file) const;
-    [[nodiscard]] LeftRun readAgain(const LeftRun &run) const;
     void show(const LeftRun &run, const ProjectData &project);
     void sayUnreadable(const QString &file);
 

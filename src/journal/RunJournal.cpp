@@ -1,7 +1,6 @@
 #include "journal/RunJournal.h"
 
 #include "journal/RunLines.h"
-#include "journal/RunRecord.h"
 
 #include <QFileInfo>
 #include <QSysInfo>
@@ -114,19 +113,27 @@ bool RunJournal::isOutdated()
 
 bool RunJournal::hasRunOfAnotherProgram() const
 {
-    const QString path = m_form.projectPath();
-    if (path.isEmpty())
-        return false;
-    const QStringList files = m_folder.files();
-    return std::any_of(files.begin(), files.end(), [&](const QString &file) {
-        if (file == this->file() || m_superseded.contains(file) ||
-            projectOfRun(file) != realPath(path))
-            return false;
-        const auto content = readWholeFile(file);
-        const auto record =
-            content ? readRun(*content, m_codePage, m_form.language()) : std::nullopt;
-        return record && record->hasBegun();
+    const QStringList files = otherRecordsOfProject();
+    return std::any_of(files.begin(), files.end(), [this](const QString &file) {
+        const auto record = read(file);
+        return record && record->hasBegun() && !m_superseded.contains(file);
     });
+}
+
+QStringList RunJournal::otherRecordsOfProject() const
+{
+    const QString path = m_form.projectPath();
+    QStringList files = path.isEmpty() ? QStringList() : m_folder.files();
+    files.removeIf([this, project = realPath(path)](const QString &other) {
+        return other == file() || projectOfRun(other) != project;
+    });
+    return files;
+}
+
+std::optional<RunRecord> RunJournal::read(const QString &file) const
+{
+    const auto content = readWholeFile(file);
+    return content ? readRun(*content, m_codePage, m_form.language()) : std::nullopt;
 }
 
 // Nothing is said yet: whoever only looks at the project is not disturbed.
@@ -183,10 +190,14 @@ tl::expected<void, FileError> RunJournal::openFile()
     return {};
 }
 
+// Those that the user knows of, and those that tell of no message. What cannot be read stays.
 void RunJournal::removeSuperseded()
 {
-    for (const QString &file : std::exchange(m_superseded, {})) {
-        if (const auto lock = RunLock::take(file))
+    const QStringList known = std::exchange(m_superseded, {});
+    for (const QString &file : otherRecordsOfProject()) {
+        const auto record = read(file);
+        const bool isPast = known.contains(file) || (record && !record->hasBegun());
+        if (isPast && RunLock::take(file))
             RunFolder::remove(file);
     }
 }

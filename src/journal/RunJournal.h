@@ -2,6 +2,7 @@
 
 #include "journal/JournalFile.h"
 #include "journal/RunFolder.h"
+#include "journal/RunRecord.h"
 #include "log/CLog.h"
 #include "project/ProjectFile.h"
 #include "prompts/Prompts.h"
@@ -76,11 +77,13 @@ public:
     [[nodiscard]] static QString realPath(const QString &path);
 
     [[nodiscard]] const RunFolder &folder() const { return m_folder; }
-    [[nodiscard]] const CodePage &codePage() const { return m_codePage; }
+    /// What a file in it tells; nothing when it cannot be read.
+    [[nodiscard]] std::optional<RunRecord> read(const QString &file) const;
 
 private:
     [[nodiscard]] bool isOutdated();
     [[nodiscard]] bool hasRunOfAnotherProgram() const;
+    [[nodiscard]] QStringList otherRecordsOfProject() const;
     [[nodiscard]] tl::expected<void, FileError> openFile();
     void removeSuperseded();
     void noteWhoIsAccountedFor();

@@ -56,12 +56,12 @@ QStringList statesOf(const RunRecord &record)
     return states;
 }
 
-QByteArray send(std::vector<int> positions)
+QByteArray send(const std::vector<int> &positions)
 {
     return RunLines::send(1000, u"7"_s, positions, u"id-%1@pc"_s.arg(positions.front()));
 }
 
-QByteArray done(std::vector<int> positions, Outcome outcome, const ServerReply &reply = {})
+QByteArray done(const std::vector<int> &positions, Outcome outcome, const ServerReply &reply = {})
 {
     return RunLines::done(2000, positions, outcome, reply);
 }
