@@ -6,6 +6,7 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -70,7 +71,14 @@ void SendCommand::start()
         }
         return;
     case LoadOutcome::LoadedPaused:
-        resume();
+        if (m_options.again) {
+            m_output.message(QStringLiteral(
+                "This project was saved in a pause; --again does not go with it: open it and stop "
+                "its run first, or send it without --again to go on where it stands."));
+            finish(ExitCode::Refused);
+        } else {
+            resume();
+        }
         return;
     }
 }
@@ -78,16 +86,12 @@ void SendCommand::start()
 // The project's file knows nothing of such a run: what became of it is written there afterwards.
 void SendCommand::startAfter(const LeftRun &left)
 {
-    const Totals totals = left.record.totals();
     const bool isUnfinished = left.record.canContinue();
     if (m_options.goOn && isUnfinished) {
         m_recovery.continueRun(left);
         resume();
     } else if (m_options.goOn) {
         m_recovery.openAsItIs(left);
-        m_total = totals.rows;
-        m_sent = totals.sent;
-        m_refused = totals.refused;
         save([this] { conclude(Ending::Over); });
     } else if (m_options.rest) {
         m_recovery.openAsItIs(left);
@@ -169,9 +173,9 @@ void SendCommand::begun()
 void SendCommand::showRow(int position)
 {
     const Recipient &row = m_workspace.recipients.at(position);
-    const auto state = stateOfWord(row.state);
-    m_sent += state == RowState::Sent ? 1 : 0;
-    m_refused += state == RowState::Error ? 1 : 0;
+    const RowState state = stateOf(row);
+    m_done += state == RowState::NotSent ? 0 : 1;
+    m_someRefused = m_someRefused || state == RowState::Error;
     if (m_options.json) {
         m_output.result(jsonLine({{QStringLiteral("row"), row.number},
                                   {QStringLiteral("name"), row.name},
@@ -197,7 +201,7 @@ void SendCommand::showProgress()
     const Form &form = m_workspace.form;
     if (!m_running)
         return;
-    m_output.showProgress(m_sent + m_refused, m_total,
+    m_output.showProgress(m_done, m_total,
                           QStringLiteral("%1  total time %2, remaining %3")
                               .arg(form.text(Control::lblTimer), form.text(Control::lblTrascorso),
                                    form.text(Control::lblRimanente)));
@@ -238,7 +242,11 @@ void SendCommand::conclude(Ending ending)
         code = ExitCode::SessionError;
     nameThoseInDoubt();
     summarize(ending, code);
-    m_journal.rowsSeen();
+    // Of a result that did not come where it was wanted, the run's record alone is left.
+    if (!m_unsaved && reported) {
+        m_output.flush();
+        m_journal.rowsSeen();
+    }
     finish(code);
 }
 
@@ -253,10 +261,23 @@ ExitCode SendCommand::codeOf(Ending ending) const
     case Ending::Interrupted:
         return ExitCode::Interrupted;
     }
-    // All rows count, also those before a pause; and the copy for the control address, which is
-    // none of them any more.
-    const Totals meant = totalsOfChecked(m_workspace.recipients.rows());
-    return meant.sent == meant.rows && m_refused == 0 ? ExitCode::Success : ExitCode::SomeRefused;
+    // Also the copy for the control address counts here.
+    const Totals totals = totalsOfProject();
+    return totals.sent == totals.rows && !m_someRefused ? ExitCode::Success : ExitCode::SomeRefused;
+}
+
+// Of all its rows, also of those before a pause; but not of the copy for the control address, whose
+// row is there only while a run is.
+Totals SendCommand::totalsOfProject() const
+{
+    std::vector<Recipient> rows = m_workspace.recipients.rows();
+    std::erase_if(rows, [control = m_workspace.engine.controlRow()](const Recipient &row) {
+        return row.id == control;
+    });
+    Totals totals = totalsOfMeant(rows);
+    // Who was passed over and is checked now does not have the message either.
+    totals.waiting += std::exchange(totals.notSent, 0);
+    return totals;
 }
 
 bool SendCommand::writeReport()
@@ -271,7 +292,7 @@ bool SendCommand::writeReport()
 void SendCommand::nameThoseInDoubt()
 {
     for (const Recipient &row : m_workspace.recipients.rows()) {
-        if (row.checked && stateOfWord(row.state) == RowState::Sending) {
+        if (stateOf(row) == RowState::Sending) {
             m_output.message(
                 QStringLiteral("In doubt: %1  %2 <%3>").arg(row.number, row.name, row.address));
         }
@@ -306,21 +327,17 @@ void SendCommand::interrupt()
 
 void SendCommand::summarize(Ending ending, ExitCode code)
 {
-    Totals run = totalsOfChecked(m_workspace.recipients.rows());
-    // Of these rows those before a pause do not count, and the copy for the control address does.
-    run.rows = m_total;
-    run.sent = m_sent;
-    run.refused = m_refused;
+    const Totals totals = totalsOfProject();
     if (m_options.json) {
-        m_output.result(jsonLine({{QStringLiteral("total"), run.rows},
-                                  {QStringLiteral("sent"), run.sent},
-                                  {QStringLiteral("refused"), run.refused},
-                                  {QStringLiteral("inDoubt"), run.inDoubt},
-                                  {QStringLiteral("left"), run.waiting},
+        m_output.result(jsonLine({{QStringLiteral("total"), totals.rows},
+                                  {QStringLiteral("sent"), totals.sent},
+                                  {QStringLiteral("refused"), totals.refused},
+                                  {QStringLiteral("inDoubt"), totals.inDoubt},
+                                  {QStringLiteral("left"), totals.waiting},
                                   {QStringLiteral("exit"), static_cast<int>(code)}}));
         return;
     }
-    QString line = TotalsText(Language::English).whole(run);
+    QString line = TotalsText(Language::English).whole(totals);
     if (ending == Ending::Failed)
         line += QStringLiteral("; the session failed");
     else if (ending != Ending::Over)
@@ -335,7 +352,6 @@ void SendCommand::finish(ExitCode code)
     if (hasEnded())
         return;
     m_running = false;
-    m_journal.rowsSeen();
     m_output.clearProgress();
     m_output.flush();
     end(code);

@@ -44,6 +44,7 @@ private:
     void save(std::function<void()> then);
     void conclude(Ending ending);
     [[nodiscard]] ExitCode codeOf(Ending ending) const;
+    [[nodiscard]] Totals totalsOfProject() const;
     [[nodiscard]] bool writeReport();
     void nameThoseInDoubt();
     void summarize(Ending ending, ExitCode code);
@@ -61,7 +62,7 @@ private:
     bool m_running = false;
     bool m_interrupted = false;
     bool m_unsaved = false; ///< the project could not be written back
-    int m_total = 0;
-    int m_sent = 0;
-    int m_refused = 0;
+    bool m_someRefused = false;
+    int m_total = 0; ///< rows that this run is to reach, with the copy for the control address
+    int m_done = 0;  ///< of them
 };

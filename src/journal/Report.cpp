@@ -41,9 +41,28 @@ struct OutcomeWord
     QString text;
 };
 
-OutcomeWord wordFor(const Attempt &attempt)
+// A project's file keeps the states of its rows, and not their attempts.
+Outcome outcomeOf(const Recipient &row)
 {
-    switch (attempt.outcome) {
+    if (!row.attempt.isEmpty())
+        return row.attempt.outcome;
+    switch (stateOf(row)) {
+    case RowState::Waiting:
+    case RowState::NotSent:
+        break;
+    case RowState::Sending:
+        return Outcome::InDoubt;
+    case RowState::Sent:
+        return Outcome::Sent;
+    case RowState::Error:
+        return Outcome::Refused;
+    }
+    return Outcome::None;
+}
+
+OutcomeWord wordFor(const Recipient &row)
+{
+    switch (outcomeOf(row)) {
     case Outcome::None:
         break;
     case Outcome::InFlight: // who reads the report cannot know how it went on
@@ -52,7 +71,7 @@ OutcomeWord wordFor(const Attempt &attempt)
     case Outcome::Sent:
         return {u"sent"_s, Report::tr("sent")};
     case Outcome::Refused:
-        if (attempt.reply.isForNow())
+        if (row.attempt.reply.isForNow())
             return {u"refusedForNow"_s, Report::tr("refused for now")};
         return {u"refused"_s, Report::tr("refused")};
     case Outcome::NotTaken:
@@ -82,7 +101,7 @@ QString Report::timeOf(const Attempt &attempt) const
 QList<QStringList> Report::head() const
 {
     const Totals totals = totalsOf(m_rows);
-    const Totals meant = totalsOfChecked(m_rows);
+    const Totals meant = totalsOfMeant(m_rows);
     return {
         {tr("Report of the project"),
          m_subject.project.isEmpty() ? tr("No Name") : fileNameOf(m_subject.project)},
@@ -130,7 +149,7 @@ QStringList Report::fieldsOf(const Recipient &row) const
             row.address,
             row.checked ? tr("yes") : tr("no"),
             row.state,
-            wordFor(attempt).text,
+            wordFor(row).text,
             timeOf(attempt),
             QString::number(attempt.tries),
             reply.code == 0 ? QString() : QString::number(reply.code),
@@ -168,7 +187,7 @@ QByteArray Report::toJson() const
             {u"address"_s, row.address},
             {u"checked"_s, row.checked},
             {u"state"_s, row.state},
-            {u"outcome"_s, wordFor(attempt).key},
+            {u"outcome"_s, wordFor(row).key},
             {u"time"_s, orNull(timeOf(attempt))},
             {u"tries"_s, attempt.tries},
             {u"code"_s, reply.code == 0 ? QJsonValue() : QJsonValue(reply.code)},
@@ -192,7 +211,7 @@ QByteArray Report::toJson() const
                                   {u"inDoubt"_s, totals.inDoubt},
                                   {u"waiting"_s, totals.waiting},
                                   {u"notSent"_s, totals.notSent}}},
-        {u"complete"_s, totalsOfChecked(m_rows).isAccountedFor()},
+        {u"complete"_s, totalsOfMeant(m_rows).isAccountedFor()},
         {u"recipients"_s, recipients},
     };
     return QJsonDocument(report).toJson();

@@ -2,11 +2,18 @@
 
 #include "recipients/TotalsText.h"
 
+#include <algorithm>
+
 namespace {
 
 bool isRefused(const Recipient &row)
 {
     return stateOf(row) == RowState::Error;
+}
+
+bool isCheckedAndMayHaveIt(const Recipient &row)
+{
+    return row.checked && mayHaveTheMessage(row);
 }
 
 } // namespace
@@ -32,9 +39,8 @@ void RunBar::update()
     m_updateIsDue = false;
     const RunState state = m_form.runState();
     // Nobody counts the rows for a run that changes them all the time.
-    Content content = state == RunState::Idle
-                          ? contentFor(totalsOfChecked(m_recipients.rows()), m_form.language())
-                          : Content();
+    Content content =
+        state == RunState::Idle ? contentFor(m_recipients.rows(), m_form.language()) : Content();
     if (content == m_content)
         return;
     m_content = std::move(content);
@@ -42,16 +48,20 @@ void RunBar::update()
     Q_EMIT changed();
 }
 
-RunBar::Content RunBar::contentFor(const Totals &checked, Language language)
+RunBar::Content RunBar::contentFor(const std::vector<Recipient> &rows, Language language)
 {
+    const Totals meant = totalsOfMeant(rows);
     const TotalsText words(language);
-    const bool someHaveProblems = checked.refused > 0 || checked.inDoubt > 0;
-    if (checked.waiting > 0 && (checked.sent > 0 || someHaveProblems)) {
-        return {words.soFar(checked) + u'.', {Control::cmdUncheckSent, Control::cmdShowRest}};
+    const bool someHaveProblems = meant.refused > 0 || meant.inDoubt > 0;
+    if (meant.waiting > 0 && (meant.sent > 0 || someHaveProblems)) {
+        Content content{words.soFar(meant) + u'.', {Control::cmdShowRest}};
+        if (std::ranges::any_of(rows, isCheckedAndMayHaveIt))
+            content.buttons.prepend(Control::cmdUncheckSent);
+        return content;
     }
-    if (checked.waiting == 0 && someHaveProblems) {
-        Content content{words.atTheEnd(checked) + u'.', {Control::cmdReport}};
-        if (checked.refused > 0)
+    if (meant.waiting == 0 && someHaveProblems) {
+        Content content{words.atTheEnd(meant) + u'.', {Control::cmdReport}};
+        if (meant.refused > 0)
             content.buttons.prepend(Control::cmdCheckRefused);
         return content;
     }
@@ -65,8 +75,7 @@ bool RunBar::isLeft(const Recipient &row)
 
 void RunBar::cmdUncheckSent_Click()
 {
-    m_commands.cmdUncheckAll_Click(m_recipients.positionsWhere(
-        [](const Recipient &row) { return row.checked && mayHaveTheMessage(row); }));
+    m_commands.cmdUncheckAll_Click(m_recipients.positionsWhere(isCheckedAndMayHaveIt));
 }
 
 // Rows that are as they should be keep their pictures.

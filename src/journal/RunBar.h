@@ -3,13 +3,12 @@
 #include "form/Form.h"
 #include "recipients/RecipientCommands.h"
 #include "recipients/RecipientList.h"
-#include "recipients/Totals.h"
 
 #include <QList>
 
-/// The bar under the recipient list: what is known of the checked rows while no run is shown, and
-/// what is usually done next. It follows the rows once per turn of the event loop, however many of
-/// them change.
+/// The bar under the recipient list: what is known of those whom a run meant or means while no run
+/// is shown, and what is usually done next. It follows the rows once per turn of the event loop,
+/// however many of them change.
 class RunBar : public QObject
 {
     Q_OBJECT
@@ -27,8 +26,8 @@ public:
 
     /// What there is to be shown. The text is that of the form's lblBar too.
     [[nodiscard]] const Content &content() const { return m_content; }
-    /// What it shows for checked rows with these totals.
-    [[nodiscard]] static Content contentFor(const Totals &checked, Language language);
+    /// What it shows for these rows.
+    [[nodiscard]] static Content contentFor(const std::vector<Recipient> &rows, Language language);
     /// Whether the row is one of those whom the run did not come to: checked, and still waiting.
     [[nodiscard]] static bool isLeft(const Recipient &row);
 

@@ -23,20 +23,34 @@ void Totals::count(const Recipient &row)
     }
 }
 
-Totals totalsOf(const std::vector<Recipient> &rows)
+namespace {
+
+template <typename Condition>
+Totals totalsWhere(const std::vector<Recipient> &rows, Condition counts)
 {
     Totals totals;
-    for (const Recipient &row : rows)
-        totals.count(row);
+    for (const Recipient &row : rows) {
+        if (counts(row))
+            totals.count(row);
+    }
     return totals;
+}
+
+} // namespace
+
+Totals totalsOf(const std::vector<Recipient> &rows)
+{
+    return totalsWhere(rows, [](const Recipient &) { return true; });
 }
 
 Totals totalsOfChecked(const std::vector<Recipient> &rows)
 {
-    Totals totals;
-    for (const Recipient &row : rows) {
-        if (row.checked)
-            totals.count(row);
-    }
-    return totals;
+    return totalsWhere(rows, [](const Recipient &row) { return row.checked; });
+}
+
+Totals totalsOfMeant(const std::vector<Recipient> &rows)
+{
+    return totalsWhere(rows, [](const Recipient &row) {
+        return row.checked || mayHaveTheMessage(row) || stateOf(row) == RowState::Error;
+    });
 }

@@ -26,3 +26,6 @@ struct Totals
 [[nodiscard]] Totals totalsOf(const std::vector<Recipient> &rows);
 /// Of the checked rows alone: those whom a run means.
 [[nodiscard]] Totals totalsOfChecked(const std::vector<Recipient> &rows);
+/// Of the checked rows, and of those that a run has come to, whatever their check marks are by now:
+/// nobody who got the message, or may have it, is lost from sight by being unchecked.
+[[nodiscard]] Totals totalsOfMeant(const std::vector<Recipient> &rows);

@@ -41,13 +41,13 @@ void SendingEngine::sendNext()
         endPacket();
         return;
     }
+    if (!m_recorder->isCaughtUp()) {
+        m_readyWaits = true;
+        return;
+    }
     if (!findNextRecipient()) {
         m_SMTP.Disconnect();
         endRunOfItself(Texts::tr("Sending ended."));
-        return;
-    }
-    if (!m_recorder->isCaughtUp()) {
-        m_readyWaits = true;
         return;
     }
     if (m_form.isChecked(Control::chkMultiSend))
@@ -76,8 +76,11 @@ void SendingEngine::endRunOfItself(const QString &text)
     Q_EMIT runEnded();
 }
 
+// A search comes to a row again when nothing was handed over after the one before.
 void SendingEngine::markNotSent(int position)
 {
+    if (stateOf(m_recipients.at(position)) == RowState::NotSent)
+        return;
     m_recipients.setState(position, stateText(RowState::NotSent));
     m_recipients.scrollTo(position);
     Q_EMIT rowDone(position);

@@ -144,6 +144,20 @@ SendOptions forTheRest()
     return options;
 }
 
+SendOptions toEverybodyAgain()
+{
+    SendOptions options;
+    options.again = true;
+    return options;
+}
+
+SendOptions withSave()
+{
+    SendOptions options;
+    options.save = true;
+    return options;
+}
+
 bool isFirst(const FakeSmtp::SentMessage &message)
 {
     return message.message.RecipientAddress == QStringLiteral("a1@example.net");
@@ -241,9 +255,7 @@ void TestSendCommand::saveWritesTheStatesBack()
     SendRig rig;
     rig.saveProject();
     rig.smtp.accepts = [](const FakeSmtp::SentMessage &message) { return !isFirst(message); };
-    SendOptions options;
-    options.save = true;
-    rig.run(options);
+    rig.run(withSave());
     QCOMPARE(rig.exitCode, ExitCode::SomeRefused);
     QVERIFY(!rig.saved().paused);
     QCOMPARE(rig.savedStates(), (QStringList{Error, Sent, Sent}));
@@ -278,9 +290,7 @@ void TestSendCommand::againSendsToEverybody()
     SendRig rig;
     rig.author.w.recipients.setState(2, Sent);
     rig.saveProject();
-    SendOptions options;
-    options.again = true;
-    rig.run(options);
+    rig.run(toEverybodyAgain());
     QCOMPARE(rig.exitCode, ExitCode::Success);
     QCOMPARE(rig.smtp.sent.size(), 3);
 }
@@ -416,7 +426,7 @@ void TestSendCommand::whoIsInDoubtAfterARunThatWentOnIsNamed()
     rig.smtp.raiseDone(false);
     rig.run();
     QCOMPARE(rig.exitCode, ExitCode::SomeRefused);
-    QCOMPARE(rig.summary(), QStringLiteral("2 of 2 sent, 1 in doubt"));
+    QCOMPARE(rig.summary(), QStringLiteral("2 of 3 sent, 1 in doubt"));
     QCOMPARE(rig.messages.lines().constLast(),
              QStringLiteral("In doubt: 1  Name 1 <a1@example.net>"));
 }
@@ -429,7 +439,7 @@ void TestSendCommand::aRowThatARunWentPastIsNotSaidToBeSent()
     rig.saveProject();
     rig.run();
     QCOMPARE(rig.exitCode, ExitCode::SomeRefused);
-    QCOMPARE(rig.summary(), QStringLiteral("2 of 2 sent, 1 left"));
+    QCOMPARE(rig.summary(), QStringLiteral("2 of 3 sent, 1 left"));
 }
 
 void TestSendCommand::aFailedSessionSaysWhoIsLeft()
@@ -468,6 +478,84 @@ void TestSendCommand::theSummaryForProgramsHasThoseInDoubt()
     rig.smtp.raiseError(10, QStringLiteral("no answer"));
     QCOMPARE(rig.summary(),
              QStringLiteral(R"({"exit":3,"inDoubt":1,"left":1,"refused":0,"sent":1,"total":3})"));
+}
+
+void TestSendCommand::theNumbersOfARunThatWentOnAddUp()
+{
+    SendRig rig(5);
+    rig.saveProject();
+    rig.startSending();
+    rig.finishMessage();
+    rig.smtp.raiseDone(false);
+    rig.smtp.raiseReady();
+    rig.die(); // the third is in doubt
+    SendOptions options = toGoOn();
+    options.json = true;
+    rig.startSending(options);
+    rig.smtp.raiseDone(true);
+    rig.command->interrupt();
+    rig.settle();
+    QCOMPARE(rig.exitCode, ExitCode::Interrupted);
+    QCOMPARE(rig.summary(),
+             QStringLiteral(R"({"exit":130,"inDoubt":1,"left":1,"refused":1,"sent":2,"total":5})"));
+}
+
+void TestSendCommand::theControlCopyIsNotAmongTheNumbers_data()
+{
+    QTest::addColumn<bool>("isPaused");
+    QTest::addColumn<QString>("summary");
+    QTest::newRow("at the end") << false << QStringLiteral("2 of 2 sent");
+    QTest::newRow("in a pause") << true << QStringLiteral("1 of 2 sent, 1 left; paused, ");
+}
+
+void TestSendCommand::theControlCopyIsNotAmongTheNumbers()
+{
+    QFETCH(bool, isPaused);
+    QFETCH(QString, summary);
+    SendRig rig(2);
+    rig.author.w.form.setText(Control::txtControl, QStringLiteral("me@example.org"));
+    rig.saveProject();
+    if (isPaused) {
+        rig.startSending();
+        rig.command->interrupt();
+        rig.finishMessage();
+        QVERIFY(rig.summary().startsWith(summary));
+    } else {
+        rig.run();
+        QCOMPARE(rig.smtp.sent.size(), 3);
+        QCOMPARE(rig.summary(), summary);
+    }
+}
+
+void TestSendCommand::againDoesNotGoWithAProjectThatWasSavedPaused_data()
+{
+    QTest::addColumn<bool>("wentOnAndDied");
+    QTest::newRow("paused") << false;
+    QTest::newRow("paused, went on and died") << true;
+}
+
+void TestSendCommand::againDoesNotGoWithAProjectThatWasSavedPaused()
+{
+    QFETCH(bool, wentOnAndDied);
+    SendRig rig;
+    rig.saveProject();
+    rig.startSending();
+    rig.command->interrupt();
+    rig.finishMessage();
+    if (wentOnAndDied) {
+        rig.startSending();
+        rig.die();
+    }
+    const qsizetype sent = rig.smtp.sent.size();
+    const QStringList records = rig.records();
+    QCOMPARE(records.size(), wentOnAndDied ? 1 : 0);
+    const QByteArray project = WorkspaceRig::contentOf(rig.path);
+    rig.run(toEverybodyAgain());
+    QCOMPARE(rig.exitCode, ExitCode::Refused);
+    QVERIFY(rig.messages.text().contains(QStringLiteral("saved in a pause")));
+    QCOMPARE(rig.smtp.sent.size(), sent);
+    QCOMPARE(rig.records(), records);
+    QCOMPARE(WorkspaceRig::contentOf(rig.path), project);
 }
 
 void TestSendCommand::continueNeedsARunThatStandsStill()
@@ -564,6 +652,12 @@ void TestSendCommand::aReportThatCannotBeWrittenIsSaid()
     QCOMPARE(rig.exitCode, ExitCode::SessionError);
     QVERIFY(rig.messages.lines().constLast().startsWith(*options.report + QStringLiteral(": ")));
     QCOMPARE(rig.summary(), QStringLiteral("3 of 3 sent"));
+    // Nobody has what was asked for, and the project knows nothing: the next call says so.
+    QCOMPARE(rig.records().size(), 1);
+    rig.die();
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::Refused);
+    QCOMPARE(rig.smtp.sent.size(), 3);
 }
 
 void TestSendCommand::aReportThatCannotBeWrittenDoesNotHideThePause()
@@ -622,7 +716,7 @@ void TestSendCommand::continueGoesOnWhereALeftRunStood()
     QCOMPARE(rig.addressesSent(),
              (QStringList{QStringLiteral("a1@example.net"), QStringLiteral("a2@example.net"),
                           QStringLiteral("a3@example.net")}));
-    QCOMPARE(rig.summary(), QStringLiteral("1 of 1 sent, 1 in doubt"));
+    QCOMPARE(rig.summary(), QStringLiteral("2 of 3 sent, 1 in doubt"));
     QCOMPARE(rig.messages.lines().constLast(),
              QStringLiteral("In doubt: 2  Name 2 <a2@example.net>"));
     QVERIFY(!rig.saved().paused);
@@ -659,9 +753,7 @@ void TestSendCommand::againForgetsALeftRun()
 {
     SendRig rig;
     rig.leaveRunBehind();
-    SendOptions options;
-    options.again = true;
-    rig.run(options);
+    rig.run(toEverybodyAgain());
     QCOMPARE(rig.exitCode, ExitCode::Success);
     QCOMPARE(rig.smtp.sent.size(), 2 + 3);
     QCOMPARE(rig.records(), QStringList());
@@ -696,7 +788,7 @@ void TestSendCommand::aStartThatIsRefusedKeepsTheLeftRun()
     }
     rig.author.useTextMessage("Dear *NOME*,\r\n");
     rig.run(toGoOn());
-    QCOMPARE(rig.summary(), QStringLiteral("1 of 1 sent, 1 in doubt"));
+    QCOMPARE(rig.summary(), QStringLiteral("2 of 3 sent, 1 in doubt"));
 }
 
 void TestSendCommand::aRunThatCannotBeRecordedIsSavedPaused()
@@ -739,5 +831,47 @@ void TestSendCommand::aRunThatCanNeitherBeRecordedNorSavedIsKept()
     QVERIFY(QDir().rmdir(rig.path));
     rig.run(toGoOn());
     // The result for which there was no room is not known any more.
-    QCOMPARE(rig.summary(), QStringLiteral("2 of 2 sent, 1 in doubt"));
+    QCOMPARE(rig.summary(), QStringLiteral("2 of 3 sent, 1 in doubt"));
+}
+
+void TestSendCommand::aRunWhoseResultCannotBeSavedIsKept()
+{
+    SendRig rig(2);
+    rig.saveProject();
+    rig.startSending(withSave());
+    rig.finishMessage();
+    QVERIFY(QFile::remove(rig.path));
+    QVERIFY(QDir().mkdir(rig.path));
+    rig.finishMessage();
+    QCOMPARE(rig.exitCode, ExitCode::SessionError);
+    QCOMPARE(rig.summary(), QStringLiteral("2 of 2 sent"));
+    QCOMPARE(rig.records().size(), 1);
+}
+
+void TestSendCommand::aLeftRunThatCannotBeWrittenBackIsKept_data()
+{
+    QTest::addColumn<bool>("goOn");
+    QTest::newRow("--continue") << true;
+    QTest::newRow("--rest") << false;
+}
+
+void TestSendCommand::aLeftRunThatCannotBeWrittenBackIsKept()
+{
+    QFETCH(bool, goOn);
+    SendRig rig(2);
+    rig.saveProject();
+    rig.startSending();
+    rig.finishMessage();
+    rig.smtp.raiseDone(true); // it died before it could say that it was over
+    rig.die();
+    {
+        const FileSizeLimit full(40);
+        rig.run(goOn ? toGoOn() : forTheRest());
+    }
+    QCOMPARE(rig.exitCode, ExitCode::SessionError);
+    QCOMPARE(rig.records().size(), 1);
+    rig.die();
+    rig.run();
+    QCOMPARE(rig.exitCode, ExitCode::Refused);
+    QCOMPARE(rig.smtp.sent.size(), 2);
 }

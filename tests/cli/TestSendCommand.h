@@ -34,6 +34,11 @@ private Q_SLOTS:
     void aFailedSessionSaysWhoIsLeft();
     void aPauseThatCannotBeSavedIsAFailure();
     void theSummaryForProgramsHasThoseInDoubt();
+    void theNumbersOfARunThatWentOnAddUp();
+    void theControlCopyIsNotAmongTheNumbers_data();
+    void theControlCopyIsNotAmongTheNumbers();
+    void againDoesNotGoWithAProjectThatWasSavedPaused_data();
+    void againDoesNotGoWithAProjectThatWasSavedPaused();
     void continueNeedsARunThatStandsStill();
     void continueGoesOnWithAPausedProject();
     void theReportIsWrittenWhenTheRunIsOver();
@@ -53,4 +58,7 @@ private Q_SLOTS:
     void aStartThatIsRefusedKeepsTheLeftRun();
     void aRunThatCannotBeRecordedIsSavedPaused();
     void aRunThatCanNeitherBeRecordedNorSavedIsKept();
+    void aRunWhoseResultCannotBeSavedIsKept();
+    void aLeftRunThatCannotBeWrittenBackIsKept_data();
+    void aLeftRunThatCannotBeWrittenBackIsKept();
 };

@@ -13,11 +13,13 @@ private Q_SLOTS:
     void totalsAddUpToTheRows();
     void everybodyIsAccountedForOrNot_data();
     void everybodyIsAccountedForOrNot();
-    void uncheckedRowsNeedNotBeAccountedFor();
+    void uncheckedRowsNeedNotBeAccountedForUnlessTheyAreInDoubt();
     void rowTellsEverything();
     void rowWithoutAnAttemptTellsNothingOfIt();
     void outcomes_data();
     void outcomes();
+    void outcomeOfARowThatWasReadFromAFileIsItsState_data();
+    void outcomeOfARowThatWasReadFromAFileIsItsState();
     void lastOutcomeStaysWhenTheStateIsOfALaterRun();
     void timesHaveTheOffsetOfTheReport();
     void localTimesAreToldWithTheirOffset();

@@ -67,7 +67,7 @@ void TestRunBar::whatItShowsFollowsTheCheckedRows_data()
     row("NotSent NotSent", "", {});
     row("Sent NotSent", "", {});
     row("Sent Waiting", "1 of 2 sent.", goOn);
-    row("Error! Waiting", "0 of 2 sent, 1 refused.", goOn);
+    row("Error! Waiting", "0 of 2 sent, 1 refused.", u"cmdShowRest"_s);
     row("Sending... Waiting", "0 of 2 sent, 1 in doubt.", goOn);
     row("Sent Error! Error! Sending... Waiting Sent", "2 of 6 sent, 2 refused, 1 in doubt.", goOn);
     row("Sent Error!", "1 sent, 1 refused.", u"cmdCheckRefused cmdReport"_s);
@@ -93,7 +93,7 @@ void TestRunBar::whatItShowsFollowsTheCheckedRows()
     QVERIFY(!rig.w.form.projectModified());
 }
 
-void TestRunBar::uncheckedRowsDoNotCount()
+void TestRunBar::uncheckedRowsCountWhereARunHasComeToThem()
 {
     BarRig rig;
     rig.fill({u"Sent"_s, u"Error!"_s, u"Waiting"_s, u"Waiting"_s});
@@ -101,20 +101,43 @@ void TestRunBar::uncheckedRowsDoNotCount()
     rig.uncheck(2);
     rig.uncheck(4);
     rig.settle();
-    QCOMPARE(rig.bar.content().text, u"1 of 2 sent."_s);
+    QCOMPARE(rig.bar.content().text, u"1 of 3 sent, 1 refused."_s);
     rig.uncheck(1);
     rig.settle();
-    QCOMPARE(rig.bar.content(), RunBar::Content());
+    QCOMPARE(rig.bar.content().text, u"1 of 3 sent, 1 refused."_s);
+    rig.uncheck(3);
+    rig.settle();
+    QCOMPARE(rig.bar.content().text, u"1 sent, 1 refused."_s);
+}
+
+void TestRunBar::whoIsInDoubtIsNeverLostFromIt()
+{
+    BarRig rig;
+    rig.fill({u"Sent"_s, u"Sending..."_s});
+    rig.uncheck(2);
+    rig.settle();
+    QCOMPARE(rig.bar.content().text, u"1 sent, 1 in doubt."_s);
+}
+
+void TestRunBar::thoseSentAreUncheckedWhereAnyIsChecked()
+{
+    BarRig rig;
+    rig.fill({u"Sent"_s, u"Sending..."_s, u"Waiting"_s});
+    QCOMPARE(rig.buttons(), u"cmdUncheckSent cmdShowRest"_s);
+    rig.bar.cmdUncheckSent_Click();
+    rig.settle();
+    QCOMPARE(rig.buttons(), u"cmdShowRest"_s);
 }
 
 void TestRunBar::itSaysTheNumbersAsTheLanguageWritesThem()
 {
-    Totals totals;
-    totals.rows = 12'345;
-    totals.sent = 10'000;
-    totals.waiting = 2'345;
-    QCOMPARE(RunBar::contentFor(totals, Language::English).text, u"10,000 of 12,345 sent."_s);
-    const QString italian = RunBar::contentFor(totals, Language::Italian).text;
+    Recipient row;
+    row.state = u"Sent"_s;
+    std::vector<Recipient> rows(10'000, row);
+    row.state = u"Waiting"_s;
+    rows.resize(12'345, row);
+    QCOMPARE(RunBar::contentFor(rows, Language::English).text, u"10,000 of 12,345 sent."_s);
+    const QString italian = RunBar::contentFor(rows, Language::Italian).text;
     QVERIFY2(italian.contains(u"10.000"_s) && italian.contains(u"12.345"_s), qPrintable(italian));
 }
 
@@ -177,7 +200,7 @@ void TestRunBar::uncheckingThoseSentUnchecksThoseInDoubtToo()
     QCOMPARE(rig.images(), QList<int>({3, 3, 2, 2, 2}));
     QVERIFY(rig.w.form.projectModified());
     rig.settle();
-    QCOMPARE(rig.bar.content().text, u"0 of 3 sent, 1 refused."_s);
+    QCOMPARE(rig.bar.content().text, u"1 of 5 sent, 1 refused, 1 in doubt."_s);
 }
 
 void TestRunBar::afterUncheckingThoseSentStartReachesTheRest()
@@ -202,6 +225,8 @@ void TestRunBar::checkingTheRefusedUnchecksAllOthers()
     QCOMPARE(rig.checks(), u"-x-x-"_s);
     QCOMPARE(rig.images(), QList<int>({3, 2, 3, 2, 3}));
     QVERIFY(rig.w.form.projectModified());
+    rig.settle();
+    QCOMPARE(rig.bar.content().text, u"1 sent, 2 refused, 1 in doubt."_s);
 }
 
 void TestRunBar::rowsThatAreAsTheyShouldBeKeepTheirPictures()

@@ -10,7 +10,9 @@ class TestRunBar : public QObject
 private Q_SLOTS:
     void whatItShowsFollowsTheCheckedRows_data();
     void whatItShowsFollowsTheCheckedRows();
-    void uncheckedRowsDoNotCount();
+    void uncheckedRowsCountWhereARunHasComeToThem();
+    void whoIsInDoubtIsNeverLostFromIt();
+    void thoseSentAreUncheckedWhereAnyIsChecked();
     void itSaysTheNumbersAsTheLanguageWritesThem();
     void thereIsNoneWhileARunIsShown_data();
     void thereIsNoneWhileARunIsShown();

@@ -46,6 +46,14 @@ bool isLocked(const QString &file)
     return !RunLock::take(file);
 }
 
+QList<int> positionsOf(const QSignalSpy &rowDone)
+{
+    QList<int> positions;
+    for (const QList<QVariant> &arguments : rowDone)
+        positions.append(arguments.front().toInt());
+    return positions;
+}
+
 QStringList recordedStates(const JournalRig &j)
 {
     QStringList states;
@@ -261,6 +269,37 @@ void TestRunJournal::theNextMessageWaitsWhileTheDiskLagsBehind()
     QCOMPARE(j.rig->smtp.sent.size(), 3);
 }
 
+void TestRunJournal::whoIsPassedOverIsSaidOnceHoweverOftenTheDiskLagsBehind()
+{
+    JournalRig j;
+    j.rig->uncheck(2);
+    const QSignalSpy done(&j.rig->w.engine, &SendingEngine::rowDone);
+    j.rig->startSending();
+    j.rig->clock.advanceMilliseconds(51);
+    j.rig->finishMessage();
+    j.rig->smtp.raiseReady();
+    j.rig->smtp.raiseReady();
+    j.flushDisk();
+    QCOMPARE(j.rig->addressesSent(), QStringList({u"a1@example.net"_s, u"a3@example.net"_s}));
+    QCOMPARE(positionsOf(done), QList<int>({1, 2}));
+    QCOMPARE(j.rig->state(2), u"Not sent"_s);
+}
+
+void TestRunJournal::aRunEndsWhenTheDiskHasCaughtUp()
+{
+    JournalRig j;
+    j.fillForm(1);
+    const QSignalSpy ended(&j.rig->w.engine, &SendingEngine::runEnded);
+    j.rig->startSending();
+    j.rig->clock.advanceMilliseconds(51);
+    j.rig->finishMessage();
+    QCOMPARE(ended.size(), 0);
+    j.flushDisk();
+    QCOMPARE(ended.size(), 1);
+    QCOMPARE(j.rig->w.form.runState(), RunState::Idle);
+    QCOMPARE(j.rig->prompts.takeNoticeTexts(), QStringList(u"Sending ended."_s));
+}
+
 void TestRunJournal::aRunThatWasStoppedMeanwhileDoesNotGoOn()
 {
     JournalRig j;
@@ -302,6 +341,40 @@ void TestRunJournal::aFullDiskPausesTheRunAndResumeGoesOn()
     j.rig->Timer.tick();
     j.rig->smtp.raiseReady();
     QCOMPARE(j.rig->addressesSent(), QStringList({u"a1@example.net"_s, u"a2@example.net"_s}));
+}
+
+void TestRunJournal::whoWasPassedOverBeforeAFullDiskIsNotSaidAgain_data()
+{
+    QTest::addColumn<bool>("inGroups");
+    QTest::addColumn<QString>("address");
+    QTest::newRow("one by one") << false << u"a2@example.net"_s;
+    QTest::newRow("in groups") << true << u"a2@example.net,a4@example.net"_s;
+}
+
+void TestRunJournal::whoWasPassedOverBeforeAFullDiskIsNotSaidAgain()
+{
+    QFETCH(bool, inGroups);
+    QFETCH(QString, address);
+    JournalRig j;
+    j.rig->uncheck(1);
+    j.rig->uncheck(3);
+    j.rig->w.form.setChecked(Control::chkMultiSend, inGroups);
+    const QSignalSpy done(&j.rig->w.engine, &SendingEngine::rowDone);
+    j.rig->start();
+    {
+        const FileSizeLimit full(rlim_t(j.record().size()) + 5);
+        j.rig->Timer.tick();
+        j.rig->smtp.raiseReady();
+    }
+    QCOMPARE(j.rig->w.form.runState(), RunState::Paused);
+    QCOMPARE(j.rig->prompts.takeNotices().size(), 1);
+    const QList<int> passedOver = positionsOf(done);
+    QCOMPARE(passedOver, inGroups ? QList<int>({1, 3}) : QList<int>({1}));
+    j.pauseOrResume();
+    j.rig->Timer.tick();
+    j.rig->smtp.raiseReady();
+    QCOMPARE(j.rig->addressesSent(), QStringList(address));
+    QCOMPARE(positionsOf(done), passedOver);
 }
 
 void TestRunJournal::aDiskThatFailsPausesTheRun()

@@ -24,8 +24,12 @@ private Q_SLOTS:
     void anotherStartReplacesTheRecord();
 
     void theNextMessageWaitsWhileTheDiskLagsBehind();
+    void whoIsPassedOverIsSaidOnceHoweverOftenTheDiskLagsBehind();
+    void aRunEndsWhenTheDiskHasCaughtUp();
     void aRunThatWasStoppedMeanwhileDoesNotGoOn();
     void aFullDiskPausesTheRunAndResumeGoesOn();
+    void whoWasPassedOverBeforeAFullDiskIsNotSaidAgain_data();
+    void whoWasPassedOverBeforeAFullDiskIsNotSaidAgain();
     void aDiskThatFailsPausesTheRun();
     void aFolderThatMayNoLongerBeWrittenLetsAPausedRunStand();
     void aFolderThatMayNotBeWrittenLetsNoRunStart();

@@ -45,6 +45,20 @@ void TestTotals::onlyCheckedRowsAreMeantByARun()
     QCOMPARE(totals.notSent, 0);
 }
 
+void TestTotals::whomARunHasComeToIsMeantWhateverTheCheckMark()
+{
+    std::vector<Recipient> rows{rowIn(u"Sent"_s), rowIn(u"Error!"_s), rowIn(u"Sending..."_s),
+                                rowIn(u"Waiting"_s), rowIn(u"Not sent"_s)};
+    QCOMPARE(totalsOfMeant(rows), totalsOf(rows));
+    for (Recipient &row : rows)
+        row.checked = false;
+    const Totals totals = totalsOfMeant(rows);
+    QCOMPARE(totals.rows, 3);
+    QCOMPARE(totals.sent, 1);
+    QCOMPARE(totals.refused, 1);
+    QCOMPARE(totals.inDoubt, 1);
+}
+
 void TestTotals::refusedForNowIsSaidByTheReply()
 {
     QVERIFY(isRefusedForNow(rowIn(u"Error!"_s, 421)));

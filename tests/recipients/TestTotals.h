@@ -10,6 +10,7 @@ class TestTotals : public QObject
 private Q_SLOTS:
     void everyRowCountsOnce();
     void onlyCheckedRowsAreMeantByARun();
+    void whomARunHasComeToIsMeantWhateverTheCheckMark();
     void refusedForNowIsSaidByTheReply();
     void whatIsInFlightIsNotInDoubtYet();
     void theTotalsInWords_data();

@@ -153,7 +153,7 @@ void TestRunBarWindow::uncheckingThoseSentLeavesTheRest()
     rig.click("cmdUncheckSent");
     QCOMPARE(rig.checks(), u"--xxx"_s);
     QVERIFY(rig.core->w.form.projectModified());
-    QCOMPARE(rig.text(), u"0 of 3 sent, 1 refused."_s);
+    QCOMPARE(rig.text(), u"1 of 5 sent, 1 refused, 1 in doubt."_s);
 }
 
 void TestRunBarWindow::theRestIsSelectedAndBroughtIntoSight()
@@ -181,7 +181,7 @@ void TestRunBarWindow::onlyTheRefusedAreChecked()
     rig.click("cmdCheckRefused");
     QCOMPARE(rig.checks(), u"-x-"_s);
     QVERIFY(rig.core->w.form.projectModified());
-    QCOMPARE(rig.text(), u"0 sent, 1 refused."_s);
+    QCOMPARE(rig.text(), u"2 sent, 1 refused."_s);
 }
 
 void TestRunBarWindow::theReportIsAskedFor()
@@ -207,6 +207,11 @@ void TestRunBarWindow::itIsReachedByKeyboardAndLeavesTheKeysInTheList()
     QTest::keyClick(rig.window->windowHandle(), Qt::Key_Space);
     rig.core->settle();
     QCOMPARE(rig.checks(), u"-x"_s);
+    QCOMPARE(rig.buttons(), u"cmdShowRest"_s);
+    QCOMPARE(rig.window->focusWidget(), &rig.view());
+    rig.button("cmdShowRest").setFocus();
+    rig.list().setState(2, u"Sent"_s);
+    rig.core->settle();
     QVERIFY(!rig.bar().isVisible());
     QCOMPARE(rig.window->focusWidget(), &rig.view());
 }
