@@ -9,10 +9,11 @@
 
 /// A workspace whose runs are recorded, in a folder that outlives it: what a program leaves behind
 /// when it dies, the next one of the same folder finds.
-class JournalRig
+template <typename PromptsType>
+class JournalRigWith
 {
 public:
-    explicit JournalRig(Language language = Language::English)
+    explicit JournalRigWith(Language language = Language::English)
     {
         begin(language);
         fillForm(4);
@@ -91,7 +92,7 @@ public:
     }
 
     QTemporaryDir folder;
-    std::optional<WorkspaceRig> rig;
+    std::optional<RigWith<PromptsType>> rig;
     std::optional<FakeDiskSync> sync;
     std::optional<RunJournal> journal;
     std::optional<Recovery> recovery;
@@ -114,3 +115,5 @@ private:
         rig.reset();
     }
 };
+
+using JournalRig = JournalRigWith<ScriptedPrompts>;

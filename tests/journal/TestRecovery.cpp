@@ -20,6 +20,18 @@ void killInTheMiddle(JournalRig &j, Language language = Language::English)
     j.die(language);
 }
 
+// The project of a paused run, whose message is in flight, is opened once more.
+void openAgain(JournalRig &j, Answer answer)
+{
+    j.save();
+    j.rig->startSending();
+    j.pauseOrResume();
+    j.rig->prompts.expectAnswer(Topic::InterruptedRun, answer);
+    j.rig->w.projectCommands.openAsking(j.path(),
+                                        [&j] { j.rig->w.projectCommands.open(j.path()); });
+    QCOMPARE(j.rig->prompts.openBoxes(), 1);
+}
+
 } // namespace
 
 void TestRecovery::theQuestionSaysHowManyWereSentAreInDoubtAndAreLeft_data()
@@ -328,6 +340,41 @@ void TestRecovery::aProjectOpenedAgainWhileItsMessageIsInFlightIsAskedAbout()
     j.openAnswering(Answer::Continue);
     QCOMPARE(j.rig->state(1), u"Sending..."_s);
     QCOMPARE(j.rig->w.engine.nextRecipientIndex(), 2);
+}
+
+void TestRecovery::whatBecomesOfTheRunWhileTheQuestionIsOpenCounts()
+{
+    JournalRig j;
+    openAgain(j, Answer::Continue);
+    j.rig->smtp.raiseDone(true, {Taken});
+    j.rig->prompts.answerAll();
+    QCOMPARE(j.rig->w.form.runState(), RunState::Paused);
+    QCOMPARE(j.rig->states(), QStringList({u"Sent"_s, u"Waiting"_s, u"Waiting"_s, u"Waiting"_s}));
+    QCOMPARE(j.attempt(1).reply, Taken);
+}
+
+void TestRecovery::aRunThatGoesOnWhileTheQuestionIsOpenIsLeftAlone()
+{
+    JournalRig j;
+    openAgain(j, Answer::Continue);
+    j.rig->finishMessage();
+    j.pauseOrResume();
+    const Situation before = j.rig->w.form.situation();
+    j.rig->prompts.answerAll();
+    QCOMPARE(j.rig->w.form.situation(), before);
+    QCOMPARE(j.rig->w.form.runState(), RunState::Waiting);
+}
+
+void TestRecovery::aRunThatIsSavedWhileTheQuestionIsOpenIsOpenedFromItsFile()
+{
+    JournalRig j;
+    openAgain(j, Answer::OpenAsItIs);
+    j.rig->finishMessage();
+    j.save();
+    QCOMPARE(j.records(), QStringList());
+    j.rig->prompts.answerAll();
+    QCOMPARE(j.rig->w.form.runState(), RunState::Paused);
+    QCOMPARE(j.rig->states(), QStringList({u"Sent"_s, u"Waiting"_s, u"Waiting"_s, u"Waiting"_s}));
 }
 
 void TestRecovery::theControlRowGoesOnWithTheRunAndNotWithoutIt()

@@ -29,6 +29,9 @@ private Q_SLOTS:
     void theProjectAtTheCommandLineIsAskedAbout();
     void aPausedRunOfThisWindowIsAskedAboutWhenItsProjectIsOpenedAgain();
     void aProjectOpenedAgainWhileItsMessageIsInFlightIsAskedAbout();
+    void whatBecomesOfTheRunWhileTheQuestionIsOpenCounts();
+    void aRunThatGoesOnWhileTheQuestionIsOpenIsLeftAlone();
+    void aRunThatIsSavedWhileTheQuestionIsOpenIsOpenedFromItsFile();
     void theControlRowGoesOnWithTheRunAndNotWithoutIt();
     void aRunContinuedAndKilledAgainIsContinuedAgain();
     void aRecoveredRunCountsAsModified();

@@ -1,4 +1,5 @@
 #include "TestJournalFile.h"
+#include "TestModel.h"
 #include "TestRecovery.h"
 #include "TestReport.h"
 #include "TestReportCommands.h"
@@ -10,5 +11,5 @@
 int main(int argc, char **argv)
 {
     return runTests<TestRunRecord, TestJournalFile, TestRunJournal, TestRecovery, TestReport,
-                    TestReportCommands, TestRunBar>(argc, argv);
+                    TestReportCommands, TestRunBar, TestModel>(argc, argv);
 }

@@ -1,5 +1,4 @@
 #include "TestEditorCommands.h"
-#include "TestModel.h"
 #include "TestProjectCommands.h"
 #include "TestProjectData.h"
 #include "TestProjectFile.h"
@@ -10,5 +9,5 @@
 int main(int argc, char **argv)
 {
     return runTests<TestProjectData, TestProjectFile, TestProjectCommands, TestWindowSettings,
-                    TestWindowLifecycle, TestEditorCommands, TestModel>(argc, argv);
+                    TestWindowLifecycle, TestEditorCommands>(argc, argv);
 }

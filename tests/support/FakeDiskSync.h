@@ -9,6 +9,9 @@
 class FakeDiskSync : public DiskSync
 {
 public:
+    /// Nothing is really brought to the disk, which takes its time.
+    bool sparesDisk = false;
+
     /// Jobs that were begun and are not yet done.
     [[nodiscard]] int jobs() const { return static_cast<int>(m_jobs.size()); }
     /// The oldest job has gathered its lines and is under way.
@@ -18,7 +21,7 @@ public:
     {
         const Job job = std::move(m_jobs.front());
         m_jobs.pop_front();
-        job.done(result ? job.job() : result);
+        job.done(result && !sparesDisk ? job.job() : result);
     }
 
     void begin(const AppendedFile::DiskJob &job, std::function<void()> begins, Done done) override

@@ -2,8 +2,8 @@
 
 #include <QObject>
 
-/// Random orders of everything a user and a server can do. SORVANTA_SEED in the environment repeats
-/// a run.
+/// Random orders of everything that a user, a server and a disk can do to a program which dies now
+/// and then. SORVANTA_SEED in the environment repeats a run.
 class TestModel : public QObject
 {
     Q_OBJECT

@@ -13,7 +13,7 @@ class RandomPrompts : public Prompts
 public:
     std::mt19937 *random = nullptr;
     QStringList files; ///< what file dialogs answer with, or nothing
-    int notices = 0;
+    std::function<void(Topic, Answer)> onAnswer;
 
     [[nodiscard]] bool hasOpenBox() const { return !m_open.empty(); }
     void answerOne()
@@ -23,15 +23,17 @@ public:
         box();
     }
 
-    void notice(const Notice &) override { ++notices; }
+    void notice(const Notice &) override {}
     void ask(const Question &question, Stands stands, std::function<void(Answer)> then) override
     {
-        m_open.emplace_back(
-            [this, buttons = question.buttons, stands = std::move(stands), then = std::move(then)] {
-                const Answer answer = randomAnswer(buttons);
-                if (stands())
-                    then(answer);
-            });
+        m_open.emplace_back([this, topic = question.topic, buttons = question.buttons,
+                             stands = std::move(stands), then = std::move(then)] {
+            const Answer answer = randomAnswer(buttons);
+            if (!stands())
+                return;
+            onAnswer(topic, answer);
+            then(answer);
+        });
     }
     void askText(const InputBox &, Stands stands, std::function<void(QString)> then) override
     {
@@ -59,8 +61,10 @@ private:
         static const QList<Answer> all[] = {{Answer::Yes, Answer::No},
                                             {Answer::Yes, Answer::No, Answer::Cancel},
                                             {Answer::Ok, Answer::Cancel},
-                                            {Answer::Continue, Answer::OpenAsItIs, Answer::Forget},
-                                            {Answer::OpenAsItIs, Answer::Forget}};
+                                            // Oftener on than away.
+                                            {Answer::Continue, Answer::Continue, Answer::Continue,
+                                             Answer::OpenAsItIs, Answer::Forget, Answer::Cancel},
+                                            {Answer::OpenAsItIs, Answer::Forget, Answer::Cancel}};
         const QList<Answer> &offered = all[static_cast<int>(buttons)];
         return offered.at(upTo(offered.size()));
     }
