@@ -25,6 +25,7 @@ MESSAGES = int(sys.argv[2])
 MESSAGES_WITH_ATTACHMENT = max(MESSAGES // 5, 20)
 MESSAGES_OVER_A_NETWORK = 100
 MESSAGES_WITH_A_WINDOW = 5000
+RUNS_WITH_A_JOURNAL = 5  # in turn with those without
 RUNS_WITH_A_WINDOW = 5  # since a few hundredths of a second are told apart
 ROUND_TRIP_MS = 50
 LONGEST_LIST = 32767
@@ -126,7 +127,7 @@ class Table:
             value = others[limit] if isinstance(limit, str) else limit
             met = figure <= value if most is not None else figure >= value
             sign = "at most" if most is not None else "at least"
-            bound = f"{sign} {limit}"
+            bound = f"{sign} {limit if isinstance(limit, str) else format(limit, ',.5g')}"
             verdict = "met" if met else "MISSED"
             self.missed += not met
         digits = 0 if figure >= 20 else 2
@@ -200,6 +201,40 @@ class Bench:
         )
         rate = (connection["messages"] - 1) / connection["seconds"]
         self.table.add("2 KB text, messages a second", rate, "/s")
+
+    def measure_journal(self):
+        """What keeping the run on the disk costs: both ways in turn, the medians compared."""
+        progress(f"{MESSAGES} messages with and without a record of the run")
+        processor = {"with": [], "without": []}
+        rate = {"with": [], "without": []}
+        with Server("bench_sink", "chunking") as sink:
+            project = self.project(sink.port, MESSAGES)
+            for _ in range(RUNS_WITH_A_JOURNAL):
+                for way in processor:
+                    said = subprocess.run(
+                        [BUILD / "bin" / "bench_journal", way, project, self.folder],
+                        check=True,
+                        stdout=subprocess.PIPE,
+                    )
+                    processor[way].append(json.loads(said.stdout)["processor"] * 1e6 / MESSAGES)
+                    connection = sink.next_connection()
+                    rate[way].append((connection["messages"] - 1) / connection["seconds"])
+        bare = statistics.median(processor["without"])
+        self.table.add(
+            "recorded run, processor time a message",
+            statistics.median(processor["with"]),
+            "us",
+            {"not recorded": bare},
+            most=1.5 * bare,
+        )
+        bare = statistics.median(rate["without"])
+        self.table.add(
+            "recorded run, messages a second",
+            statistics.median(rate["with"]),
+            "/s",
+            {"not recorded": bare},
+            least=0.6 * bare,
+        )
 
     def measure_attachment(self):
         """Messages with a large attachment."""
@@ -307,6 +342,7 @@ def main():
     with tempfile.TemporaryDirectory() as folder:
         bench = Bench(folder)
         bench.measure_mailing()
+        bench.measure_journal()
         bench.measure_attachment()
         bench.measure_network()
         bench.measure_lists()
