@@ -77,7 +77,9 @@ int main(int argc, char **argv)
     workspace.projectCommands.open(arguments[2]);
     workspace.form.setProjectModified(false);
     const double before = processorTime();
-    QObject::connect(&workspace.engine, &SendingEngine::runEnded, [before] {
+    QObject::connect(&workspace.engine, &SendingEngine::runEnded, [before, &journal] {
+        if (journal)
+            journal->rowsSeen();
         std::printf("{\"processor\": %.4f}\n", processorTime() - before);
         QCoreApplication::exit(0);
     });
