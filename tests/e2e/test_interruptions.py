@@ -147,7 +147,7 @@ class Interruptions(EndToEnd):
         self.server.on_command = lambda number: None
         ended = self.send(self.path, status=1)
         self.assertIn("In doubt: 2  Name 2 <r2@list.example>", ended.messages)
-        self.assertEqual(ended.output.splitlines()[-1], "2 of 2 sent, 1 in doubt")
+        self.assertEqual(ended.output.splitlines()[-1], "3 of 4 sent, 1 in doubt")
         self.assertEqual(
             self.server.recipients(), [f"r{i}@list.example" for i in (1, 3, 4)]
         )
