@@ -1,8 +1,10 @@
 #include "TestContact.h"
 #include "TestSeparatedLines.h"
+#include "TestVCard.h"
+#include "TestVCardLines.h"
 #include "support/RunTests.h"
 
 int main(int argc, char **argv)
 {
-    return runTests<TestContact, TestSeparatedLines>(argc, argv);
+    return runTests<TestContact, TestSeparatedLines, TestVCardLines, TestVCard>(argc, argv);
 }
