@@ -1,4 +1,5 @@
 #include "TestContact.h"
+#include "TestContactImport.h"
 #include "TestSeparatedLines.h"
 #include "TestVCard.h"
 #include "TestVCardLines.h"
@@ -6,5 +7,6 @@
 
 int main(int argc, char **argv)
 {
-    return runTests<TestContact, TestSeparatedLines, TestVCardLines, TestVCard>(argc, argv);
+    return runTests<TestContact, TestSeparatedLines, TestVCardLines, TestVCard, TestContactImport>(
+        argc, argv);
 }
