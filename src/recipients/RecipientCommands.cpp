@@ -30,7 +30,7 @@ void RecipientCommands::askAddress(const QString &name)
         if (address.isEmpty())
             return;
         if (IsValidEmail(address)) {
-            add(name, address);
+            append({{name, address}});
             return;
         }
         m_prompts.notice({Icon::Exclamation, tr("New recipient"),
@@ -39,19 +39,48 @@ void RecipientCommands::askAddress(const QString &name)
     });
 }
 
-void RecipientCommands::add(const QString &name, const QString &address)
+void RecipientCommands::append(const std::vector<NewRecipient> &recipients)
 {
-    Recipient row;
-    row.number = QString::number(m_list.count() + 1);
-    row.name = name;
-    row.address = address;
-    row.state = stateWord(RowState::Waiting, m_form.language());
-    row.imageIndex = RowImage::AddedByHand;
-    m_list.append(row);
+    std::vector<Recipient> rows;
+    rows.reserve(recipients.size());
+    int number = m_list.count();
+    for (const NewRecipient &recipient : recipients) {
+        Recipient row;
+        row.number = QString::number(++number);
+        row.name = recipient.name;
+        row.address = recipient.address;
+        row.state = stateWord(RowState::Waiting, m_form.language());
+        row.imageIndex = RowImage::AddedByHand;
+        rows.push_back(row);
+    }
+    m_list.appendAll(std::move(rows));
     m_list.sort(Column::Name, Qt::AscendingOrder);
     m_form.setProjectModified(true);
-    m_AppLog.WriteMessage(QLatin1String("New recipient added: '") + name + QLatin1String("' - ") +
-                          address);
+    for (const NewRecipient &recipient : recipients) {
+        m_AppLog.WriteMessage(QLatin1String("New recipient added: '") + recipient.name +
+                              QLatin1String("' - ") + recipient.address);
+    }
+}
+
+void RecipientCommands::add(const std::vector<NewRecipient> &recipients)
+{
+    std::vector<NewRecipient> valid;
+    QString rejected;
+    for (const NewRecipient &recipient : recipients) {
+        if (IsValidEmail(recipient.address)) {
+            valid.push_back(recipient);
+        } else {
+            rejected +=
+                QLatin1String("\r\n") + recipient.name + QLatin1String(" - ") + recipient.address;
+        }
+    }
+    if (!valid.empty())
+        append(valid);
+    // Who adds from another window does not see the list grow, and would add once more.
+    QString text = tr("Recipients added: %1").arg(valid.size());
+    if (!rejected.isEmpty())
+        text += QLatin1String("\r\n") + tr("These recipients couldn't be added:") + rejected;
+    m_prompts.notice({Icon::Information, QStringLiteral("Sorvanta"), text});
 }
 
 void RecipientCommands::cmdRemove_Click(const std::vector<int> &selected)

@@ -9,6 +9,13 @@
 
 #include <vector>
 
+/// Somebody who is to become a row of the list.
+struct NewRecipient
+{
+    QString name;
+    QString address;
+};
+
 /// Editing the recipient list by hand. Positions given are those of the selected rows, ascending.
 class RecipientCommands
 {
@@ -18,6 +25,8 @@ public:
     RecipientCommands(Form &form, RecipientList &list, Prompts &prompts, CLog &AppLog);
 
     void cmdAdd_Click();
+    /// Adds them all as if by hand, but for those without a valid address, and says what was done.
+    void add(const std::vector<NewRecipient> &recipients);
     void cmdRemove_Click(const std::vector<int> &selected);
     void cmdCheckAll_Click(const std::vector<int> &selected);
     void cmdUncheckAll_Click(const std::vector<int> &selected);
@@ -28,7 +37,7 @@ public:
 
 private:
     void askAddress(const QString &name);
-    void add(const QString &name, const QString &address);
+    void append(const std::vector<NewRecipient> &recipients);
     [[nodiscard]] Stands whileAddingIsPossible() const;
 
     Form &m_form;

@@ -1,13 +1,10 @@
 #include "recipients/RecipientList.h"
 
 #include <algorithm>
-#include <numeric>
 
 RecipientList::RecipientList(const QLocale &locale, QObject *parent)
-    : QObject(parent), m_collator(locale)
-{
-    m_collator.setCaseSensitivity(Qt::CaseInsensitive);
-}
+    : QObject(parent), m_collation(locale)
+{}
 
 int RecipientList::positionOf(quint64 id, int hint) const
 {
@@ -40,10 +37,17 @@ int RecipientList::checkedFrom(int position) const
 
 quint64 RecipientList::append(Recipient row)
 {
-    row.id = ++m_lastId;
-    m_rows.push_back(std::move(row));
-    Q_EMIT rowsChanged();
+    appendAll({std::move(row)});
     return m_lastId;
+}
+
+void RecipientList::appendAll(std::vector<Recipient> rows)
+{
+    for (Recipient &row : rows) {
+        row.id = ++m_lastId;
+        m_rows.push_back(std::move(row));
+    }
+    Q_EMIT rowsChanged();
 }
 
 void RecipientList::replaceAll(std::vector<Recipient> rows)
@@ -121,18 +125,10 @@ void RecipientList::sort(Column column, Qt::SortOrder order)
 {
     m_sortColumn = column;
     m_sortOrder = order;
-    // One key a row: comparing the texts themselves would collate each of them many times over.
-    // They are folded because the plain locale's keys do not ignore case.
-    std::vector<QCollatorSortKey> keys;
-    keys.reserve(m_rows.size());
-    for (const Recipient &row : m_rows)
-        keys.push_back(m_collator.sortKey(textOf(row, column).toCaseFolded()));
-    std::vector<std::size_t> places(m_rows.size());
-    std::iota(places.begin(), places.end(), std::size_t{0});
-    std::stable_sort(places.begin(), places.end(), [&](std::size_t a, std::size_t b) {
-        const int comparison = keys[a].compare(keys[b]);
-        return order == Qt::AscendingOrder ? comparison < 0 : comparison > 0;
-    });
+    const auto textAt = [&](std::size_t place) -> const QString & {
+        return textOf(m_rows[place], column);
+    };
+    const std::vector<std::size_t> places = m_collation.sorted(m_rows.size(), textAt, order);
     std::vector<Recipient> sorted;
     sorted.reserve(m_rows.size());
     for (const std::size_t place : places)

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/Collation.h"
 #include "recipients/Recipient.h"
 
-#include <QCollator>
 #include <QObject>
 
 #include <functional>
@@ -37,6 +37,8 @@ public:
 
     /// Puts a row at the end, unsorted, and returns its identity.
     quint64 append(Recipient row);
+    /// Puts rows at the end, unsorted.
+    void appendAll(std::vector<Recipient> rows);
     /// The rows in the place of all that were there, in their order; the sort column is "N°" again.
     void replaceAll(std::vector<Recipient> rows);
     void clear() { replaceAll({}); }
@@ -72,7 +74,7 @@ private:
         return static_cast<std::size_t>(position - 1);
     }
 
-    QCollator m_collator;
+    Collation m_collation;
     std::vector<Recipient> m_rows;
     quint64 m_lastId = 0;
     Column m_sortColumn = Column::Number;

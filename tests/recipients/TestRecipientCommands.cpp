@@ -3,6 +3,7 @@
 #include "RecipientsRig.h"
 #include "support/ItalianTexts.h"
 
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -175,6 +176,50 @@ void TestRecipientCommands::answerAfterARunHasStartedAddsNothing()
     rig.form.setRunState(RunState::Waiting, "a test");
     rig.prompts.answerAll();
     QCOMPARE(rig.list.count(), 0);
+}
+
+void TestRecipientCommands::severalAreAddedAsByHand()
+{
+    RecipientsRig rig;
+    rig.fill({u"Mara"_s});
+    QSignalSpy rowsChanged(&rig.list, &RecipientList::rowsChanged);
+    rig.commands.add({{u"Zoe"_s, u"zoe@example.com"_s},
+                      {u"Ada"_s, u"mara@example.com"_s},
+                      {u" "_s, u"john smith@example.com"_s}});
+    QCOMPARE(rig.names(), (QStringList{u" "_s, u"Ada"_s, u"Mara"_s, u"Zoe"_s}));
+    QCOMPARE(rig.numbers(), (QStringList{u"4"_s, u"3"_s, u"1"_s, u"2"_s}));
+    QCOMPARE(rig.list.at(4).state, u"Waiting"_s);
+    QCOMPARE(rig.list.at(4).imageIndex, RowImage::AddedByHand);
+    QVERIFY(rig.list.at(4).checked);
+    QVERIFY(rig.form.projectModified());
+    QCOMPARE(rig.logged(), (QStringList{u"New recipient added: 'Zoe' - zoe@example.com"_s,
+                                        u"New recipient added: 'Ada' - mara@example.com"_s,
+                                        u"New recipient added: ' ' - john smith@example.com"_s}));
+    QCOMPARE(rig.prompts.takeNoticeTexts(), QStringList{u"Recipients added: 3"_s});
+    // The rows come together, and are sorted once.
+    QCOMPARE(rowsChanged.count(), 2);
+}
+
+void TestRecipientCommands::addingSeveralLeavesOutInvalidAddresses()
+{
+    RecipientsRig rig;
+    rig.commands.add({{u"A"_s, u"nowhere"_s}, {u"B"_s, u"b@example.com"_s}, {u"C"_s, {}}});
+    QCOMPARE(rig.names(), QStringList{u"B"_s});
+    QCOMPARE(rig.numbers(), QStringList{u"1"_s});
+    const QList<Notice> notices = rig.prompts.takeNotices();
+    QCOMPARE(notices.size(), 1);
+    QCOMPARE(notices.front().icon, Icon::Information);
+    QCOMPARE(notices.front().text, u"Recipients added: 1\r\n"
+                                   "These recipients couldn't be added:\r\nA - nowhere\r\nC - "_s);
+}
+
+void TestRecipientCommands::addingOnlyInvalidAddressesChangesNothing()
+{
+    RecipientsRig rig;
+    rig.commands.add({{u"A"_s, u"nowhere"_s}});
+    QCOMPARE(rig.list.count(), 0);
+    QVERIFY(!rig.form.projectModified());
+    QVERIFY(rig.logged().isEmpty());
 }
 
 void TestRecipientCommands::removingRowsTwoAndThreeOfFourLeavesOneAndTwo()

@@ -22,6 +22,9 @@ private Q_SLOTS:
     void answerAfterTheProjectWasReplacedAddsNothing();
     void answerAfterARunHasStartedAddsNothing();
 
+    void severalAreAddedAsByHand();
+    void addingSeveralLeavesOutInvalidAddresses();
+    void addingOnlyInvalidAddressesChangesNothing();
     void removingRowsTwoAndThreeOfFourLeavesOneAndTwo();
     void removingNothingStillMarksTheProject();
 
