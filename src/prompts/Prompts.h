@@ -29,6 +29,8 @@ enum class Topic {
     StopProcedure,
     TrustCertificate,
     InterruptedRun,
+    DeleteContacts,
+    DeleteBook,
 };
 
 enum class Buttons {
@@ -71,6 +73,8 @@ struct FileDialog
     QString defaultExtension;
     /// Where the dialog opens; empty: where it last was.
     QString initialFolder;
+    /// The name that the dialog proposes.
+    QString initialName = {};
     bool asksBeforeOverwriting = false;
 };
 

@@ -75,5 +75,7 @@ QFileDialog *newFileBox(const FileDialog &dialog, const QString &folder, bool de
         else
             completeNamesOfFiles(box, dialog.defaultExtension);
     }
+    if (!dialog.initialName.isEmpty())
+        box->selectFile(dialog.initialName);
     return box;
 }

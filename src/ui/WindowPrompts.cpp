@@ -61,8 +61,8 @@ void WindowPrompts::setWindow(QWidget *window)
 
 void WindowPrompts::notice(const Notice &notice)
 {
-    const auto make = [this, notice]() -> QDialog * {
-        auto *box = new MessageBox(notice, m_window);
+    const auto make = [notice](QWidget *window) -> QDialog * {
+        auto *box = new MessageBox(notice, window);
         box->setObjectName("notice"_L1);
         return box;
     };
@@ -71,8 +71,9 @@ void WindowPrompts::notice(const Notice &notice)
 
 void WindowPrompts::ask(const Question &question, Stands stands, std::function<void(Answer)> then)
 {
-    const auto make = [this, question, stands, then = std::move(then)]() -> QDialog * {
-        auto *box = new MessageBox(question, m_window);
+    const auto make = [this, question, stands,
+                       then = std::move(then)](QWidget *window) -> QDialog * {
+        auto *box = new MessageBox(question, window);
         box->setObjectName("question"_L1);
         connect(box, &QDialog::finished, this, [this, box, stands, then] {
             post(stands, [then, answer = box->answer()] { then(answer); });
@@ -84,8 +85,8 @@ void WindowPrompts::ask(const Question &question, Stands stands, std::function<v
 
 void WindowPrompts::askText(const InputBox &box, Stands stands, std::function<void(QString)> then)
 {
-    const auto make = [this, box, stands, then = std::move(then)]() -> QDialog * {
-        auto *input = new QInputDialog(m_window);
+    const auto make = [this, box, stands, then = std::move(then)](QWidget *window) -> QDialog * {
+        auto *input = new QInputDialog(window);
         input->setObjectName("inputBox"_L1);
         input->setWindowTitle(box.title);
         input->setLabelText(box.prompt);
@@ -107,8 +108,8 @@ void WindowPrompts::askText(const InputBox &box, Stands stands, std::function<vo
 void WindowPrompts::askFile(const FileDialog &dialog, Stands stands,
                             std::function<void(QString)> then)
 {
-    const auto make = [this, dialog, stands, then = std::move(then)]() -> QDialog * {
-        auto *box = newFileBox(dialog, folderFor(dialog), m_dialogs == Dialogs::Native, m_window);
+    const auto make = [this, dialog, stands, then = std::move(then)](QWidget *window) -> QDialog * {
+        auto *box = newFileBox(dialog, folderFor(dialog), m_dialogs == Dialogs::Native, window);
         box->setObjectName("fileDialog"_L1);
         connect(box, &QDialog::finished, this, [this, box, stands, then](int result) {
             QString name;
@@ -127,8 +128,8 @@ void WindowPrompts::askFile(const FileDialog &dialog, Stands stands,
 void WindowPrompts::askLogin(const LoginBox &box, Stands stands,
                              std::function<void(std::optional<LoginEntry>)> then)
 {
-    const auto make = [this, box, stands, then = std::move(then)]() -> QDialog * {
-        auto *login = new frmAccesso(box, m_window);
+    const auto make = [this, box, stands, then = std::move(then)](QWidget *window) -> QDialog * {
+        auto *login = new frmAccesso(box, window);
         connect(login, &QDialog::finished, this, [this, login, stands, then](int result) {
             std::optional<LoginEntry> entry = login->takeEntry();
             if (result != QDialog::Accepted)
@@ -160,7 +161,9 @@ void WindowPrompts::openWaiting()
 
 void WindowPrompts::open(const Waiting &waiting)
 {
-    QDialog *box = waiting.make();
+    // What blocks nothing must not go away with a dialog that does.
+    QDialog *box =
+        waiting.make(waiting.kind == Kind::AskingBeside ? m_window.data() : windowInFront());
     m_open.push_back({box, waiting.stands, waiting.kind});
     connect(box, &QDialog::finished, this, [this, box] {
         forget(box);
@@ -172,6 +175,25 @@ void WindowPrompts::open(const Waiting &waiting)
         box->show();
     else
         box->open();
+}
+
+// A dialog that blocks the window lies over it.
+QWidget *WindowPrompts::windowInFront() const
+{
+    const auto isBox = [this](const QDialog *dialog) {
+        return std::any_of(m_open.begin(), m_open.end(),
+                           [dialog](const Open &open) { return open.box == dialog; });
+    };
+    QWidget *front = m_window;
+    for (QWidget *next = front; next != nullptr;) {
+        front = std::exchange(next, nullptr);
+        for (QDialog *dialog :
+             front->findChildren<QDialog *>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (dialog->isVisible() && dialog->isModal() && !isBox(dialog))
+                next = dialog;
+        }
+    }
+    return front;
 }
 
 bool WindowPrompts::noticeIsOpen() const

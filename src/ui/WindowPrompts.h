@@ -23,7 +23,8 @@ public:
     explicit WindowPrompts(QObject *parent = nullptr);
     ~WindowPrompts() override;
 
-    /// The window that boxes open over. They wait until there is one and the event loop runs.
+    /// The window that boxes open over, or over a dialog that blocks it. They wait until there is a
+    /// window and the event loop runs.
     void setWindow(QWidget *window);
     void setDialogs(Dialogs dialogs) { m_dialogs = dialogs; }
 
@@ -45,7 +46,7 @@ private:
     /// A box that has not been opened yet.
     struct Waiting
     {
-        std::function<QDialog *()> make;
+        std::function<QDialog *(QWidget *window)> make;
         Stands stands;
         Kind kind = Kind::Asking;
     };
@@ -63,6 +64,7 @@ private:
     void discard(QDialog *box);
     void activateLast();
     void post(const Stands &stands, std::function<void()> then);
+    [[nodiscard]] QWidget *windowInFront() const;
     [[nodiscard]] bool noticeIsOpen() const;
     [[nodiscard]] QString folderFor(const FileDialog &dialog) const;
 

@@ -478,6 +478,48 @@ void TestWindowPrompts::theBoxBelowAStaleOneHasTheKeys()
     QTRY_COMPARE(QApplication::activeWindow(), rig.question());
 }
 
+void TestWindowPrompts::boxesOpenOverADialogThatBlocksTheWindow_data()
+{
+    addBoxesWithAnAnswer();
+}
+
+void TestWindowPrompts::boxesOpenOverADialogThatBlocksTheWindow()
+{
+    QFETCH(const QString, name);
+    Rig rig;
+    QDialog outer(&rig.window);
+    outer.open();
+    QDialog inner(&outer);
+    inner.open();
+    rig.askWith(name);
+    QVERIFY(rig.shown(name));
+    QCOMPARE(rig.shown(name)->parentWidget(), &inner);
+    // Boxes are no such dialogs: what one asks outlives another.
+    rig.prompts.notice(noticeOf(u"first"_s));
+    QCOMPARE(rig.notice()->parentWidget(), &inner);
+    rig.notice()->close();
+    rig.shown(name)->reject();
+    inner.hide();
+    outer.hide();
+    rig.askWith(name);
+    QCOMPARE(rig.shown(name)->parentWidget(), &rig.window);
+}
+
+void TestWindowPrompts::boxesOpenOverTheWindowWhenADialogBlocksNothing()
+{
+    Rig rig;
+    QDialog beside(&rig.window);
+    beside.show();
+    rig.prompts.notice(noticeOf(u"first"_s));
+    QCOMPARE(rig.notice()->parentWidget(), &rig.window);
+    rig.notice()->close();
+    QDialog blocking(&rig.window);
+    blocking.open();
+    rig.prompts.askLogin({}, always, [](const std::optional<LoginEntry> &) {});
+    QVERIFY(rig.shown(u"frmAccesso"_s));
+    QCOMPARE(rig.shown(u"frmAccesso"_s)->parentWidget(), &rig.window);
+}
+
 void TestWindowPrompts::boxesGoAwayWithTheirWindow()
 {
     WindowPrompts prompts;
@@ -1093,6 +1135,20 @@ void TestWindowPrompts::aSavedNameGetsTheSuffix()
     press(dialog, Qt::Key_Return);
     QTRY_COMPARE(rig.answers, 1);
     QCOMPARE(rig.answer, QDir::toNativeSeparators(folder.filePath(saved)));
+}
+
+void TestWindowPrompts::theProposedNameIsTakenByReturn()
+{
+    const QTemporaryDir folder;
+    Rig rig;
+    FileDialog asked = saveProject();
+    asked.initialFolder = folder.path();
+    asked.initialName = u"Soci (2).svk"_s;
+    const QFileDialog *dialog = rig.askFile(asked);
+    QVERIFY(dialog);
+    press(dialog, Qt::Key_Return);
+    QTRY_COMPARE(rig.answers, 1);
+    QCOMPARE(rig.answer, QDir::toNativeSeparators(folder.filePath(u"Soci (2).svk"_s)));
 }
 
 void TestWindowPrompts::overwritingIsAskedForWhereItShould()

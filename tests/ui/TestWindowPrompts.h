@@ -36,6 +36,9 @@ private Q_SLOTS:
     void aBoxThatIsStaleInItsTurnNeverOpens();
     void aBoxThatStandsStaysOpen();
     void theBoxBelowAStaleOneHasTheKeys();
+    void boxesOpenOverADialogThatBlocksTheWindow_data();
+    void boxesOpenOverADialogThatBlocksTheWindow();
+    void boxesOpenOverTheWindowWhenADialogBlocksNothing();
     void boxesGoAwayWithTheirWindow();
     void boxesGoAwayWithThePrompts();
 
@@ -80,6 +83,7 @@ private Q_SLOTS:
     void anOpenedNameGetsTheSuffixOnlyWhenSuchAFileExists();
     void aSavedNameGetsTheSuffix_data();
     void aSavedNameGetsTheSuffix();
+    void theProposedNameIsTakenByReturn();
     void overwritingIsAskedForWhereItShould();
     void aDialogThatAsksMayBecomeStale();
     void dialogsShareTheirLastFolder();
