@@ -5,8 +5,7 @@
 #include <array>
 #include <vector>
 
-/// The columns of contactTable, from 1 on as everybody counts them. A book file holds them in
-/// another order: there the address comes second.
+/// The columns of contactTable, from 1 on as everybody counts them.
 enum class ContactColumn {
     DisplayName = 1, ///< what lists show
     Name,
@@ -23,11 +22,20 @@ enum class ContactColumn {
     Notes, ///< the only one that may have several lines, ended by CR LF
 };
 
+/// In the order of a book file, where the address comes second.
+constexpr std::array ColumnsInFile{
+    ContactColumn::DisplayName, ContactColumn::Email,    ContactColumn::Name,
+    ContactColumn::Company,     ContactColumn::Address,  ContactColumn::City,
+    ContactColumn::State,       ContactColumn::PostCode, ContactColumn::Country,
+    ContactColumn::Telephone,   ContactColumn::Fax,      ContactColumn::Mobile,
+    ContactColumn::Notes,
+};
+
 /// One contact of an address book: a row of contactTable.
 class Contact
 {
 public:
-    static constexpr int Columns = static_cast<int>(ContactColumn::Notes);
+    static constexpr int Columns = static_cast<int>(ColumnsInFile.size());
 
     [[nodiscard]] const QString &operator[](ContactColumn column) const
     {

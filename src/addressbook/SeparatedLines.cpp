@@ -3,22 +3,12 @@
 #include "base/Lines.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <utility>
 
 namespace {
 
 constexpr QChar Separator = u';';
-
-constexpr std::array BookOrder{
-    ContactColumn::DisplayName, ContactColumn::Email,    ContactColumn::Name,
-    ContactColumn::Company,     ContactColumn::Address,  ContactColumn::City,
-    ContactColumn::State,       ContactColumn::PostCode, ContactColumn::Country,
-    ContactColumn::Telephone,   ContactColumn::Fax,      ContactColumn::Mobile,
-    ContactColumn::Notes,
-};
-static_assert(BookOrder.size() == Contact::Columns);
 
 bool isLineEnd(QChar c)
 {
@@ -144,7 +134,7 @@ std::vector<ForeignContact> readSeparatedLines(QStringView text)
             continue;
         ForeignContact contact;
         for (qsizetype i = 0; i < fields.size(); ++i)
-            contact.fields[BookOrder[i]] = fields[i];
+            contact.fields[ColumnsInFile[i]] = fields[i];
         contact.addresses.append(std::exchange(contact.fields[ContactColumn::Email], {}));
         contacts.push_back(std::move(contact));
     }

@@ -1,0 +1,97 @@
+#include "addressbook/BookIndex.h"
+
+#include "base/Lines.h"
+#include "base/modMain.h"
+
+#include <QFileInfo>
+
+namespace {
+
+std::vector<AddressBook> booksOf(QStringView text)
+{
+    std::vector<AddressBook> books;
+    LineReader lines(text);
+    while (const auto name = lines.next())
+        books.push_back({name->toString(), lines.next().value_or(QStringView()).toString()});
+    return books;
+}
+
+QString linesOf(const AddressBook &book)
+{
+    return book.name + QLatin1String("\r\n") + book.file + QLatin1String("\r\n");
+}
+
+// What has to stand between a text and the lines of a further book: the end of an unfinished last
+// line, and the empty file of a book that has a name only.
+QString joint(QStringView text)
+{
+    QString joint;
+    if (!text.isEmpty() && !text.endsWith(u'\r') && !text.endsWith(u'\n'))
+        joint += QLatin1String("\r\n");
+    int lineCount = 0;
+    for (LineReader lines(text); lines.next();)
+        ++lineCount;
+    if (lineCount % 2 != 0)
+        joint += QLatin1String("\r\n");
+    return joint;
+}
+
+} // namespace
+
+BookIndex::BookIndex(const CodePage &codePage, const QString &programFolder)
+    : m_codePage(codePage),
+      m_programFolder(programFolder),
+      m_path(joinPath(programFolder, QStringLiteral("rubrica.ini")))
+{}
+
+tl::expected<std::vector<AddressBook>, FileError> BookIndex::LoadRubricheList() const
+{
+    if (!QFileInfo::exists(systemPath(m_path))) {
+        if (const auto made = makeFirst(); !made)
+            return tl::unexpected(made.error());
+    }
+    const auto read = [this](const QByteArray &content) {
+        return booksOf(m_codePage.decode(content));
+    };
+    return readWholeFile(m_path).map(read);
+}
+
+QString BookIndex::troubleOf(const FileError &error)
+{
+    return tr("The list of the address books cannot be read: %1").arg(error.toText());
+}
+
+tl::expected<void, FileError> BookIndex::makeFirst() const
+{
+    const AddressBook standard{tr("Standard"), QStringLiteral("rubrica.rub")};
+    const QString file = ResolveProgramPath(standard.file, m_programFolder);
+    if (!QFileInfo::exists(systemPath(file))) {
+        if (const auto made = replaceWholeFile(file, {}); !made)
+            return made;
+    }
+    return SaveRubricheList({standard});
+}
+
+tl::expected<void, FileError>
+BookIndex::SaveRubricheList(const std::vector<AddressBook> &books) const
+{
+    QString text;
+    for (const AddressBook &book : books)
+        text += linesOf(book);
+    return replaceWholeFile(m_path, m_codePage.encode(text));
+}
+
+tl::expected<void, FileError> BookIndex::append(const AddressBook &book) const
+{
+    const auto old = readWholeFile(m_path);
+    if (!old)
+        return tl::unexpected(old.error());
+    const QString text = m_codePage.decode(*old);
+    const QString added = joint(text) + linesOf(book);
+    // The old bytes and the new may not read as what they are when they are put together: the one
+    // in the code page, the other in UTF-8.
+    QByteArray content = *old + m_codePage.encode(added);
+    if (m_codePage.decode(content) != text + added)
+        content = m_codePage.encode(text + added);
+    return replaceWholeFile(m_path, content);
+}

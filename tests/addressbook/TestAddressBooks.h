@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QObject>
+
+/// What the address book window does with books.
+class TestAddressBooks : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theFirstBookIsOpenedFirst();
+    void aMissingIndexIsMadeOnFirstUse();
+    void anEmptyIndexOpensNoBook();
+    void anIndexThatCannotBeReadIsSaidInTheLine();
+    void aBookWithoutAFileCannotBeChanged();
+    void aClickWritesTheOpenBookBeforeTheOtherIsRead();
+    void aClickOnTheOpenBookSavesAndReadsItAgain();
+    void aBookNotReadToItsEndSaysSoAndIsLeftAlone();
+    void changesAreKeptInMemoryUntilTheBookIsLeft();
+    void closingWithoutChangesWritesWhatWasRead();
+    void whatAnotherProgramChangedIsSaidAndShown();
+    void aBookThatCannotBeSavedHoldsOnce();
+    void aBookThatCannotBeSavedHoldsAClickOnce();
+    void aNewBookIsAddedSelectedAndOpened();
+    void theProposedNameIsFree();
+    void aNameThatIsTakenIsRefused();
+    void aNameThatDiffersOnlyInLetterCaseIsAccepted();
+    void aFileThatIsTakenIsRefused();
+    void anExistingFileBecomesTheNewBook();
+    void noNameAndNoFileEndTheCommand();
+    void theOpenBookIsSavedBeforeANewOneIsOpened();
+    void aNewBookThatCannotBeMadeChangesNothing();
+    void theStandardBookIsNotDeleted();
+    void theOnlyBookIsNotDeletedEither();
+    void aDeletedBookLeavesItsFile();
+    void deletingABookCanBeCancelled();
+    void aBookOfAnotherProgramSurvivesADeletion();
+    void textsOfTheMessages_data();
+    void textsOfTheMessages();
+};
