@@ -13,6 +13,85 @@
     </message>
 </context>
 <context>
+    <name>AddressBooks</name>
+    <message>
+        <source>The contacts could not be saved: %1. If you leave the book all the same, what you have changed is lost.</source>
+        <translation>Impossibile salvare i contatti: %1. Lasciando comunque la rubrica, le modifiche andranno perse.</translation>
+    </message>
+    <message>
+        <source>Another program has changed this book meanwhile. Your contacts were saved as %1.</source>
+        <translation>Nel frattempo un altro programma ha modificato questa rubrica. I contatti sono stati salvati come %1.</translation>
+    </message>
+    <message>
+        <source>The book could not be read to its end and cannot be changed: %1</source>
+        <translation>Impossibile leggere la rubrica fino alla fine; non può essere modificata: %1</translation>
+    </message>
+    <message>
+        <source>Insert the name for the new address book:</source>
+        <translation>Inserire il nome della nuova rubrica:</translation>
+    </message>
+    <message>
+        <source>The specified name is already in use.</source>
+        <translation>Il nome inserito è già in uso.</translation>
+    </message>
+    <message>
+        <source>New address book</source>
+        <translation>Nuova rubrica</translation>
+    </message>
+    <message>
+        <source>Address Book (*.rub)|*.rub</source>
+        <translation>Rubrica (*.rub)|*.rub</translation>
+    </message>
+    <message>
+        <source>The specified file is already in use.</source>
+        <translation>Il file selezionato è già in uso.</translation>
+    </message>
+    <message>
+        <source>The address book could not be added: %1</source>
+        <translation>Impossibile aggiungere la rubrica: %1</translation>
+    </message>
+    <message>
+        <source>The standard address book can&apos;t be deleted.</source>
+        <translation>La rubrica standard non può essere eliminata.</translation>
+    </message>
+    <message>
+        <source>Are you sure to delete the selected address book? All the contacts will be deleted! Do you want to continue?</source>
+        <translation>La rubrica selezionata insieme ai contatti in essa contenuti verrà eliminata. Procedere?</translation>
+    </message>
+    <message>
+        <source>The address book could not be removed: %1</source>
+        <translation>Impossibile rimuovere la rubrica: %1</translation>
+    </message>
+    <message>
+        <source>Are you sure to delete *N* selected contact(s)?</source>
+        <translation>Sei sicuro di eliminare i contatti selezionati?</translation>
+    </message>
+    <message>
+        <source>Import contacts</source>
+        <translation>Importa contatti</translation>
+    </message>
+    <message>
+        <source>Contacts (*.vcf; *.csv; *.txt; *.rub)|*.vcf; *.csv; *.txt; *.rub|All files (*.*)|*.*</source>
+        <translation>Contatti (*.vcf; *.csv; *.txt; *.rub)|*.vcf; *.csv; *.txt; *.rub|Tutti i file (*.*)|*.*</translation>
+    </message>
+    <message>
+        <source>The contacts cannot be read: %1</source>
+        <translation>Impossibile leggere i contatti: %1</translation>
+    </message>
+    <message>
+        <source>Contacts imported: %1</source>
+        <translation>Contatti importati: %1</translation>
+    </message>
+    <message>
+        <source>Fields left out because the address book has no place for them: %1</source>
+        <translation>Campi tralasciati perché la rubrica non li prevede: %1</translation>
+    </message>
+    <message>
+        <source>These contacts have no valid e-mail address and were left out:</source>
+        <translation>Questi contatti non hanno un indirizzo e-mail valido e sono stati tralasciati:</translation>
+    </message>
+</context>
+<context>
     <name>AddressRules</name>
     <message>
         <source>it is empty</source>
@@ -105,6 +184,17 @@
     </message>
 </context>
 <context>
+    <name>BookIndex</name>
+    <message>
+        <source>The list of the address books cannot be read: %1</source>
+        <translation>Impossibile leggere l&apos;elenco delle rubriche: %1</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Principale</translation>
+    </message>
+</context>
+<context>
     <name>CertificateQuestion</name>
     <message>
         <source>Certificate</source>
@@ -183,6 +273,36 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <message>
         <source>Account</source>
         <translation>Account</translation>
+    </message>
+</context>
+<context>
+    <name>ContactCheck</name>
+    <message>
+        <source>Error</source>
+        <translation>Avviso</translation>
+    </message>
+    <message>
+        <source>You must fill &apos;Name&apos; or &apos;Company&apos; fields and &apos;E-Mail&apos; field.</source>
+        <translation>E&apos; obbligatorio indicare il Nome e/o l&apos;Azienda e l&apos;indirizzo E-Mail.</translation>
+    </message>
+    <message>
+        <source>E-Mail</source>
+        <translation>E-Mail</translation>
+    </message>
+    <message>
+        <source>The specified e-mail address isn&apos;t valid.</source>
+        <translation>L&apos;indirizzo e-mail specificato non è valido</translation>
+    </message>
+</context>
+<context>
+    <name>ContactModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>E-Mail Address</source>
+        <translation>Indirizzo E-Mail</translation>
     </message>
 </context>
 <context>
@@ -352,6 +472,13 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <message>
         <source>%1 can be read or changed by others; the passwords in it are not used. Let nobody but its owner have access to it.</source>
         <translation>%1 può essere letto o modificato da altri; le password che contiene non vengono usate. Solo il proprietario deve potervi accedere.</translation>
+    </message>
+</context>
+<context>
+    <name>OpenBook</name>
+    <message>
+        <source>line %1 has no &quot;;&quot;</source>
+        <translation>la riga %1 non contiene &quot;;&quot;</translation>
     </message>
 </context>
 <context>
@@ -708,6 +835,14 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <message>
         <source>&apos; isn&apos;t a valid e-mail address.</source>
         <translation>&apos; non è un indirizzo e-mail valido.</translation>
+    </message>
+    <message>
+        <source>Recipients added: %1</source>
+        <translation>Destinatari aggiunti: %1</translation>
+    </message>
+    <message>
+        <source>These recipients couldn&apos;t be added:</source>
+        <translation>I seguenti destinatari non sono corretti:</translation>
     </message>
 </context>
 <context>
@@ -1539,6 +1674,69 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     </message>
 </context>
 <context>
+    <name>frmContatto</name>
+    <message>
+        <source>New Contact</source>
+        <translation>Nuovo Contatto</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nome:</translation>
+    </message>
+    <message>
+        <source>Company:</source>
+        <translation>Azienda:</translation>
+    </message>
+    <message>
+        <source>E-Mail:</source>
+        <translation>E-Mail:</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Indirizzo:</translation>
+    </message>
+    <message>
+        <source>Town/City:</source>
+        <translation>Città:</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>Provincia:</translation>
+    </message>
+    <message>
+        <source>Post/Zip Code:</source>
+        <translation>CAP:</translation>
+    </message>
+    <message>
+        <source>Country:</source>
+        <translation>Stato:</translation>
+    </message>
+    <message>
+        <source>Telephone:</source>
+        <translation>Telefono:</translation>
+    </message>
+    <message>
+        <source>Fax:</source>
+        <translation>Fax:</translation>
+    </message>
+    <message>
+        <source>Mobile phone:</source>
+        <translation>Cellulare:</translation>
+    </message>
+    <message>
+        <source>Notes:</source>
+        <translation>Note:</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+    <message>
+        <source>Edit Contact</source>
+        <translation>Modifica Contatto</translation>
+    </message>
+</context>
+<context>
     <name>frmDetails</name>
     <message>
         <source>This recipient is no longer in the list.</source>
@@ -1948,6 +2146,112 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <message>
         <source>This file cannot be read:</source>
         <translation>Impossibile leggere questo file:</translation>
+    </message>
+</context>
+<context>
+    <name>frmRubrica</name>
+    <message>
+        <source>Address Book</source>
+        <translation>Rubrica</translation>
+    </message>
+    <message>
+        <source>Address Books:</source>
+        <translation>Rubriche:</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>&amp;Add</source>
+        <translation>&amp;Aggiungi</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Rimuovi</translation>
+    </message>
+    <message>
+        <source>Contacts:</source>
+        <translation>Contatti:</translation>
+    </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Trova:</translation>
+    </message>
+    <message>
+        <source>Words in name, company or address</source>
+        <translation>Parole nel nome, nell&apos;azienda o nell&apos;indirizzo</translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation>&amp;Nuovo</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifica</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Elimina</translation>
+    </message>
+    <message>
+        <source>What went wrong</source>
+        <translation>Che cosa non è riuscito</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Chiudi</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nuovo</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifica</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Copy as text</source>
+        <translation>Copia come testo</translation>
+    </message>
+    <message>
+        <source>Add to recipients</source>
+        <translation>Aggiungi ai destinatari</translation>
+    </message>
+    <message>
+        <source>Import contacts...</source>
+        <translation>Importa contatti...</translation>
+    </message>
+    <message>
+        <source>Shown: %1 of %2</source>
+        <translation>Mostrati: %1 di %2</translation>
+    </message>
+    <message>
+        <source>Address Books</source>
+        <translation>Rubriche</translation>
+    </message>
+    <message>
+        <source>Contacts</source>
+        <translation>Contatti</translation>
+    </message>
+</context>
+<context>
+    <name>frmRubriche</name>
+    <message>
+        <source>Address Books</source>
+        <translation>Rubriche</translation>
+    </message>
+    <message>
+        <source>What went wrong</source>
+        <translation>Che cosa non è riuscito</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annulla</translation>
     </message>
 </context>
 <context>

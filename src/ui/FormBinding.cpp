@@ -51,11 +51,6 @@ void FormBinding::show(Control control)
     }
 }
 
-void FormBinding::markAsCommand(Control control)
-{
-    m_commands.insert(control);
-}
-
 void FormBinding::applyRunState()
 {
     for (int place = 0; place < Controls::count(); ++place) {
@@ -63,14 +58,12 @@ void FormBinding::applyRunState()
         const bool enabled = m_form.isEnabled(control);
         QObject *const object = objectOf(control);
         if (auto *const action = qobject_cast<QAction *>(object))
-            action->setEnabled(enabled && m_commands.contains(control));
+            action->setEnabled(enabled);
         else if (auto *const menu = qobject_cast<QMenu *>(object))
             menu->setEnabled(enabled);
         else if (auto *const edit = qobject_cast<QLineEdit *>(object))
             edit->setEnabled(enabled);
-        else if (auto *const box = qobject_cast<QCheckBox *>(object))
-            box->setEnabled(enabled);
         else if (auto *const button = qobject_cast<QAbstractButton *>(object))
-            button->setEnabled(enabled && m_commands.contains(control));
+            button->setEnabled(enabled);
     }
 }

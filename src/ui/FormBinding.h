@@ -4,7 +4,6 @@
 
 #include <QWidget>
 
-#include <set>
 #include <vector>
 
 /// Makes the widgets and menu entries of a window the views of the form's controls: each is found
@@ -22,8 +21,6 @@ public:
     {
         return m_objects[static_cast<std::size_t>(control)];
     }
-    /// A button or menu entry behind which there is no command is never enabled.
-    void markAsCommand(Control control);
     void applyRunState();
 
 private:
@@ -32,5 +29,4 @@ private:
 
     Form &m_form;
     std::vector<QObject *> m_objects;
-    std::set<Control> m_commands;
 };

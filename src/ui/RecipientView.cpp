@@ -1,5 +1,7 @@
 #include "ui/RecipientView.h"
 
+#include "ui/RowSelection.h"
+
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
@@ -120,32 +122,12 @@ void RecipientView::focusInEvent(QFocusEvent *event)
 
 std::vector<int> RecipientView::selectedPositions() const
 {
-    // The ranges, not the rows one by one: those take seconds when many are scattered.
-    std::vector<int> positions;
-    for (const QItemSelectionRange &range : selectionModel()->selection()) {
-        for (int row = range.top(); row <= range.bottom(); ++row)
-            positions.push_back(row + 1);
-    }
-    std::sort(positions.begin(), positions.end());
-    positions.erase(std::unique(positions.begin(), positions.end()), positions.end());
-    return positions;
+    return selectedRows(*selectionModel());
 }
 
 void RecipientView::select(const std::vector<int> &positions)
 {
-    QItemSelection selection;
-    const int lastColumn = m_model->columnCount() - 1;
-    for (auto first = positions.begin(); first != positions.end();) {
-        auto last = first;
-        while (std::next(last) != positions.end() && *std::next(last) == *last + 1)
-            ++last;
-        selection.append(QItemSelectionRange(m_model->index(*first - 1, 0),
-                                             m_model->index(*last - 1, lastColumn)));
-        first = std::next(last);
-    }
-    // First none, then these: going over in one step compares every old range with every new one.
-    selectionModel()->clearSelection();
-    selectionModel()->select(selection, QItemSelectionModel::Select);
+    selectRows(*selectionModel(), positions);
 }
 
 void RecipientView::selectAll()

@@ -39,6 +39,7 @@ frmMain::frmMain(const WindowParts &parts)
       m_programFolder(parts.programFolder),
       m_helpFolder(parts.helpFolder),
       m_companions(parts, *this),
+      m_addressBook(parts, *this),
       m_editors(m_form, m_workspace.messageFiles, m_workspace.windowSettings, parts.prompts,
                 parts.shell),
       m_lifecycle(m_form, m_workspace.projectCommands, m_workspace.projectFile,
@@ -73,7 +74,9 @@ frmMain::frmMain(const WindowParts &parts)
     connect(&m_companions, &Companions::wanted, this, &frmMain::goTo);
     connect(&m_form, &Form::captionChanged, this, [this] { setWindowTitle(m_form.caption()); });
     m_lifecycle.beforeUnload = [this, &journal = parts.journal] {
-        m_place.save(*this, *m_ui->splitter, *m_ui->lstDestinatari->header());
+        m_place.saveGeometry(*this);
+        m_place.saveParts(*m_ui->splitter, *m_ui->lstDestinatari->header());
+        m_addressBook.endSession();
         journal.close();
     };
     m_lifecycle.onUserLeaves = [&journal = parts.journal] {
@@ -86,7 +89,8 @@ frmMain::~frmMain() = default;
 
 void frmMain::Form_Load(const QString &projectPath)
 {
-    m_hasPlace = m_place.restore(*this, *m_ui->splitter, *m_ui->lstDestinatari->header());
+    m_hasPlace = m_place.restoreGeometry(*this) &&
+                 m_place.restoreParts(*m_ui->splitter, *m_ui->lstDestinatari->header());
     m_lifecycle.Form_Load(projectPath);
     if (projectPath.isEmpty())
         m_recovery.atStart();
@@ -148,7 +152,6 @@ void frmMain::showPictures()
 
 void frmMain::command(Control control, std::function<void()> procedure)
 {
-    m_binding.markAsCommand(control);
     QObject *const object = m_binding.objectOf(control);
     if (auto *const button = qobject_cast<QAbstractButton *>(object))
         connect(button, &QAbstractButton::clicked, this, std::move(procedure));
@@ -173,6 +176,7 @@ void frmMain::bindCommands()
     command(Control::mnuSalvaConNome, saveAs);
     command(Control::mnuEditor, [this] { mnuEditor_Click(); });
     command(Control::mnuEsci, [this] { m_lifecycle.mnuEsci_Click(); });
+    command(Control::mnuRubrica, [this] { m_addressBook.mnuRubrica_Click(); });
     // The same pages in both languages.
     command(Control::mnuCominciare,
             [this] { openHelpPage(QStringLiteral("/Help/Tutorial/come_cominciare.htm")); });
@@ -198,6 +202,7 @@ void frmMain::bindCommands()
     });
 
     command(Control::cmdDestinatari, [&w] { w.recipientsFile.cmdDestinatari_Click(); });
+    command(Control::cmdFromRubrica, [this] { m_addressBook.cmdFromRubrica_Click(); });
     command(Control::cmdAdd, [&w] { w.recipientCommands.cmdAdd_Click(); });
     command(Control::cmdRemove, [this, &w] {
         w.recipientCommands.cmdRemove_Click(m_ui->lstDestinatari->selectedPositions());

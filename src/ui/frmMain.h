@@ -2,6 +2,7 @@
 
 #include "project/EditorCommands.h"
 #include "project/WindowLifecycle.h"
+#include "ui/AddressBookWindows.h"
 #include "ui/Companions.h"
 #include "ui/FormBinding.h"
 #include "ui/WindowParts.h"
@@ -65,6 +66,7 @@ private:
     QString m_programFolder;
     QString m_helpFolder;
     Companions m_companions;
+    AddressBookWindows m_addressBook;
     EditorCommands m_editors;
     WindowLifecycle m_lifecycle;
     Recovery &m_recovery;

@@ -1,7 +1,10 @@
 #include "TestAccountTrial.h"
 #include "TestAccountWindow.h"
+#include "TestAddressBookWindow.h"
+#include "TestBookChooser.h"
 #include "TestBoxes.h"
 #include "TestCheckWindow.h"
+#include "TestContactEditor.h"
 #include "TestControls.h"
 #include "TestDetailsWindow.h"
 #include "TestDialogs.h"
@@ -25,6 +28,6 @@ int main(int argc, char **argv)
     return runTestsIn<QApplication, TestBoxes, TestControls, TestDigitsEdit, TestWindowPrompts,
                       TestRecipientList, TestRunBarWindow, TestRunSeen, TestMainWindow, TestDialogs,
                       TestDrops, TestHtmlView, TestPreview, TestLoginBox, TestAccountWindow,
-                      TestAccountTrial, TestCheckWindow, TestDetailsWindow, TestTestMessageBox>(
-        argc, argv);
+                      TestAccountTrial, TestAddressBookWindow, TestBookChooser, TestContactEditor,
+                      TestCheckWindow, TestDetailsWindow, TestTestMessageBox>(argc, argv);
 }

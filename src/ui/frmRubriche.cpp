@@ -1,0 +1,63 @@
+#include "ui/frmRubriche.h"
+
+#include "ui/BookItems.h"
+#include "ui_frmRubriche.h"
+
+#include <QEvent>
+#include <QPushButton>
+
+frmRubriche::frmRubriche(const BookIndex &index, const QString &placeFile, QWidget *parent)
+    : QDialog(parent),
+      m_ui(std::make_unique<Ui::frmRubriche>()),
+      m_place(placeFile, QStringLiteral("frmRubriche"))
+{
+    m_ui->setupUi(this);
+    m_place.restoreSize(*this);
+    connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmRubriche::cmdOK_Click);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_ui->Rubriche, &QTreeWidget::itemDoubleClicked, this, &frmRubriche::cmdOK_Click);
+    LoadRubricheList(index);
+}
+
+frmRubriche::~frmRubriche() = default;
+
+void frmRubriche::LoadRubricheList(const BookIndex &index)
+{
+    const auto books = index.LoadRubricheList();
+    m_ui->lblLine->setVisible(!books);
+    if (!books) {
+        m_ui->lblLine->setText(BookIndex::troubleOf(books.error()));
+        return;
+    }
+    showBooks(*m_ui->Rubriche, *books, 0);
+}
+
+std::optional<QString> frmRubriche::selectedFile() const
+{
+    const QTreeWidgetItem *const book = m_ui->Rubriche->currentItem();
+    return book == nullptr ? std::nullopt : std::optional(fileOf(*book));
+}
+
+void frmRubriche::cmdOK_Click()
+{
+    Cancelled = false;
+    accept();
+}
+
+void frmRubriche::done(int result)
+{
+    m_place.saveSize(*this);
+    QDialog::done(result);
+}
+
+void frmRubriche::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        Localize();
+    QDialog::changeEvent(event);
+}
+
+void frmRubriche::Localize()
+{
+    m_ui->retranslateUi(this);
+}
