@@ -296,7 +296,6 @@ class Bench:
             f"{LONGEST_LIST:,} recipients, memory of a run", usage.memory / MIB, "MiB", most=100
         )
 
-
     def measure_window(self):
         """What a window adds to a run, and how long it stands still."""
         progress(f"{MESSAGES_WITH_A_WINDOW} messages behind a window")
@@ -332,6 +331,32 @@ class Bench:
             )
 
 
+    def measure_address_book(self):
+        """A book as long as a list of recipients can be."""
+        progress(f"{LONGEST_LIST} contacts")
+        numbers = list(range(1, LONGEST_LIST + 1))
+        random.Random(4).shuffle(numbers)
+        book = self.folder / "book.rub"
+        lines = (
+            f"Zoë Contact {i} - Mill;contact{i}@bench.example;Zoë Contact {i};Mill;"
+            f"{i} Mill Lane;Larkhill;Wessex;AB{i};England;01234 {i};;07700 {i};A note\r\n"
+            for i in numbers
+        )
+        book.write_text("".join(lines), encoding="utf-8", newline="")
+        index = BUILD / "bin" / "rubrica.ini"
+        index.write_text(f"Standard\r\n{book}\r\n", encoding="utf-8", newline="")
+        with Screen() as screen:
+            actions = screen.window(self.folder, "book")
+        index.unlink()
+        assert actions.pop("contacts") == LONGEST_LIST
+        # A full line ends with a ";", which those above lack.
+        assert book.read_bytes().splitlines()[0].endswith(b";")
+        for action, most in (("open", 0.5), ("save and close", 0.3)):
+            self.table.add(f"{LONGEST_LIST:,} contacts, {action}", actions.pop(action), "s", most=most)
+        for action, seconds in actions.items():
+            self.table.add(f"{LONGEST_LIST:,} contacts, {action}", seconds * 1000, "ms", most=100)
+
+
 def progress(what):
     """Says what is being measured."""
     print(f"Measuring {what} ...", file=sys.stderr, flush=True)
@@ -347,6 +372,7 @@ def main():
         bench.measure_network()
         bench.measure_lists()
         bench.measure_window()
+        bench.measure_address_book()
     bench.table.show()
     return 1 if bench.table.missed else 0
 

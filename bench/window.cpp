@@ -2,6 +2,7 @@
 //
 //     bench_window run PROJECT      sends the project
 //     bench_window list PROJECT     opens the project, sorts, selects, checks, removes
+//     bench_window book             opens the first address book, searches, sorts, saves
 //
 // Prints one line of JSON. A stall is the time from which on the event loop handles one event until
 // it is through with it. Times are in seconds.
@@ -12,6 +13,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
 
@@ -166,6 +168,49 @@ int measureList(TimingApplication &application, const QElapsedTimer &sinceStart,
     return 0;
 }
 
+int measureBook(TimingApplication &application)
+{
+    Program program(Language::English, [] {});
+    program.window->Form_Load({});
+    program.window->show();
+    constexpr int Settling = 500;
+    handleEvents(Settling);
+    QElapsedTimer opening;
+    opening.start();
+    program.window->findChild<QAction *>(QStringLiteral("mnuRubrica"))->trigger();
+    auto &list = *program.window->findChild<QTreeView *>(QStringLiteral("Elenco"));
+    PaintWait paint(*list.viewport());
+    paint.wait();
+    std::printf("{\"contacts\": %d, \"open\": %.4f", list.model()->rowCount(),
+                static_cast<double>(opening.nsecsElapsed()) / 1e9);
+
+    auto &find = *program.window->findChild<QLineEdit *>(QStringLiteral("txtFind"));
+    const auto stallOf = [&](const char *action, auto work) {
+        handleEvents(Settling);
+        application.takeLongest();
+        QTimer::singleShot(0, &list, work);
+        handleEvents(Settling);
+        std::printf(", \"%s\": %.4f", action, application.takeLongest());
+    };
+    const auto type = [&](const QString &words) { return [&find, words] { find.setText(words); }; };
+    stallOf("find the first letter", type(QStringLiteral("c")));
+    stallOf("find a word", type(QStringLiteral("contact")));
+    stallOf("find two words", type(QStringLiteral("contact 77")));
+    stallOf("find all again", type({}));
+    const auto sortBy = [&](int section) {
+        return [&list, section] { Q_EMIT list.header()->sectionClicked(section); };
+    };
+    stallOf("sort by name", sortBy(0));
+    stallOf("sort by address", sortBy(1));
+    stallOf("select all", [&] { list.selectAll(); });
+    stallOf("find with all selected", type(QStringLiteral("7")));
+    stallOf("save and close", [&program] {
+        program.window->findChild<QPushButton *>(QStringLiteral("cmdClose"))->click();
+    });
+    std::printf("}\n");
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -177,6 +222,8 @@ int main(int argc, char **argv)
         return measureRun(application, QString::fromLocal8Bit(argv[2]));
     if (argc == 3 && std::strcmp(argv[1], "list") == 0)
         return measureList(application, sinceStart, QString::fromLocal8Bit(argv[2]));
-    std::fputs("bench_window run|list PROJECT\n", stderr);
+    if (argc == 2 && std::strcmp(argv[1], "book") == 0)
+        return measureBook(application);
+    std::fputs("bench_window run|list PROJECT, or book\n", stderr);
     return 2;
 }
