@@ -1123,6 +1123,29 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     </message>
 </context>
 <context>
+    <name>RunNotification</name>
+    <message>
+        <source>The mailing is over</source>
+        <translation>L&apos;invio è terminato</translation>
+    </message>
+    <message>
+        <source>The mailing broke off</source>
+        <translation>L&apos;invio si è interrotto</translation>
+    </message>
+    <message>
+        <source>The mailing is paused</source>
+        <translation>L&apos;invio è in pausa</translation>
+    </message>
+    <message>
+        <source>It cannot be recorded any more.</source>
+        <translation>Non può più essere registrato.</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostra</translation>
+    </message>
+</context>
+<context>
     <name>ServerReport</name>
     <message>
         <source>You trust this certificate.</source>
@@ -1219,6 +1242,13 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <message>
         <source>All is well. Nothing was sent.</source>
         <translation>Tutto bene. Non è stato inviato nulla.</translation>
+    </message>
+</context>
+<context>
+    <name>SleepInhibitor</name>
+    <message>
+        <source>A mailing is being sent.</source>
+        <translation>È in corso un invio.</translation>
     </message>
 </context>
 <context>

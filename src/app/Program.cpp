@@ -3,6 +3,7 @@
 #include "base/HelpPages.h"
 #include "base/Host.h"
 #include "base/ProgramFolder.h"
+#include "ui/RunNotification.h"
 
 #include <QCoreApplication>
 
@@ -24,7 +25,8 @@ Program::Program(Language language, std::function<void()> endProcess)
       runBar(workspace.form, workspace.recipients, workspace.recipientCommands),
       reports(workspace.form, workspace.recipients, clock, prompts, AppLog),
       runSeen(workspace.form, [this] { journal.rowsSeen(); }),
-      certificateQuestion(connections.SMTP, connections.accounts, prompts, formats)
+      certificateQuestion(connections.SMTP, connections.accounts, prompts, formats),
+      sleepInhibitor(workspace.form)
 {
     const WindowParts parts{workspace,
                             prompts,
@@ -50,6 +52,8 @@ Program::Program(Language language, std::function<void()> endProcess)
     else
         window = std::make_unique<frmMain>(parts);
     prompts.setWindow(window.get());
+    // It goes with the window.
+    new RunNotification(workspace.engine, workspace.recipients, language, *window);
     // Questions about a project or a run that is gone close by themselves, once the procedure that
     // ended it is through.
     const auto closeStale = [this](auto signal) {

@@ -15,6 +15,7 @@
 #include "settings/RegFileStore.h"
 #include "ui/DesktopShell.h"
 #include "ui/RunSeen.h"
+#include "ui/SleepInhibitor.h"
 #include "ui/WindowPrompts.h"
 #include "ui/frmMain.h"
 
@@ -51,5 +52,6 @@ public:
     ReportCommands reports;
     RunSeen runSeen;
     CertificateQuestion certificateQuestion;
+    SleepInhibitor sleepInhibitor;
     std::unique_ptr<frmMain> window;
 };
