@@ -108,6 +108,11 @@ class Control:
         """How many rows a list has."""
         return self._property("Table", "NRows")
 
+    @property
+    def columns(self):
+        """How many columns a list has."""
+        return self._property("Table", "NColumns")
+
     def cell(self, row, column):
         """A cell of a list, counted from 0."""
         place = GLib.Variant("(ii)", (row, column))

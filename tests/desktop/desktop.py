@@ -133,8 +133,16 @@ class Desktop:
         subprocess.run(["xdotool", "key", *keys], env=self.environment, check=True)
 
     def type(self, text):
-        """Types a text."""
-        command = ["xdotool", "type", "--delay", KEYBOARD_PAUSE, "--", text]
+        """Types a text; between its lines Enter."""
+        first, *others = text.split("\n")
+        self._type_line(first)
+        for line in others:
+            # As a letter of a text it would be another key than the one on the keyboard.
+            self.press("Return")
+            self._type_line(line)
+
+    def _type_line(self, line):
+        command = ["xdotool", "type", "--delay", KEYBOARD_PAUSE, "--", line]
         subprocess.run(command, env=self.environment, check=True)
 
     def click(self, control, button=LEFT):

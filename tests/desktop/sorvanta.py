@@ -1,6 +1,6 @@
 """The program's windows as somebody sees and uses them, in either language."""
 
-from accessibility import FOCUSABLE, FOCUSED, SHOWING
+from accessibility import FOCUSABLE, FOCUSED, SELECTED, SHOWING
 from waiting import until
 
 FIELDS = (
@@ -69,11 +69,16 @@ class Sorvanta:
         """The list of the recipients."""
         return self.control("tree", "Recipients")
 
+    def click_heading(self, heading):
+        """Clicks on a heading of the menu bar, and returns it."""
+        bar = next(part for part in self.main.parts() if part.role == "menu bar")
+        found = next(part for part in bar.children() if part.name == heading)
+        self.running.click(found)
+        return found
+
     def open_menu(self, heading, entry):
         """Clicks on a heading of the menu bar; returns an entry, once it is shown."""
-        bar = next(part for part in self.main.parts() if part.role == "menu bar")
-        menu = next(part for part in bar.children() if part.name == heading)
-        self.running.click(menu)
+        menu = self.click_heading(heading)
 
         def shown():
             for part in menu.children()[0].children():
@@ -113,6 +118,13 @@ class Sorvanta:
     def says(self, box):
         """What a box says."""
         return "\n".join(part.name for part in box.parts() if part.role == "label")
+
+    def select(self, tree, row):
+        """Clicks on a row of a list, counted from 0, once it is there."""
+        until(f"row {row} of {tree}", lambda: tree.rows > row)
+        cell = tree.cell(row, 0)
+        self.desktop.click(cell)
+        until(lambda: f"{cell} to be selected", lambda: cell.has(SELECTED))
 
     def answer(self, box, *keys):
         """Presses keys in a box and waits until it is closed."""
