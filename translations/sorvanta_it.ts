@@ -2225,10 +2225,6 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
         <translation>&amp;Elimina</translation>
     </message>
     <message>
-        <source>What went wrong</source>
-        <translation>Che cosa non è riuscito</translation>
-    </message>
-    <message>
         <source>&amp;Close</source>
         <translation>&amp;Chiudi</translation>
     </message>
@@ -2274,10 +2270,6 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <message>
         <source>Address Books</source>
         <translation>Rubriche</translation>
-    </message>
-    <message>
-        <source>What went wrong</source>
-        <translation>Che cosa non è riuscito</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>

@@ -1,42 +1,8 @@
 #include "addressbook/BookIndex.h"
 
-#include "base/Lines.h"
 #include "base/modMain.h"
 
 #include <QFileInfo>
-
-namespace {
-
-std::vector<AddressBook> booksOf(QStringView text)
-{
-    std::vector<AddressBook> books;
-    LineReader lines(text);
-    while (const auto name = lines.next())
-        books.push_back({name->toString(), lines.next().value_or(QStringView()).toString()});
-    return books;
-}
-
-QString linesOf(const AddressBook &book)
-{
-    return book.name + QLatin1String("\r\n") + book.file + QLatin1String("\r\n");
-}
-
-// What has to stand between a text and the lines of a further book: the end of an unfinished last
-// line, and the empty file of a book that has a name only.
-QString joint(QStringView text)
-{
-    QString joint;
-    if (!text.isEmpty() && !text.endsWith(u'\r') && !text.endsWith(u'\n'))
-        joint += QLatin1String("\r\n");
-    int lineCount = 0;
-    for (LineReader lines(text); lines.next();)
-        ++lineCount;
-    if (lineCount % 2 != 0)
-        joint += QLatin1String("\r\n");
-    return joint;
-}
-
-} // namespace
 
 BookIndex::BookIndex(const CodePage &codePage, const QString &programFolder)
     : m_codePage(codePage),
@@ -51,7 +17,7 @@ tl::expected<std::vector<AddressBook>, FileError> BookIndex::LoadRubricheList() 
             return tl::unexpected(made.error());
     }
     const auto read = [this](const QByteArray &content) {
-        return booksOf(m_codePage.decode(content));
+        return readIndexText(m_codePage.decode(content));
     };
     return readWholeFile(m_path).map(read);
 }
@@ -75,10 +41,7 @@ tl::expected<void, FileError> BookIndex::makeFirst() const
 tl::expected<void, FileError>
 BookIndex::SaveRubricheList(const std::vector<AddressBook> &books) const
 {
-    QString text;
-    for (const AddressBook &book : books)
-        text += linesOf(book);
-    return replaceWholeFile(m_path, m_codePage.encode(text));
+    return replaceWholeFile(m_path, m_codePage.encode(indexTextOf(books)));
 }
 
 tl::expected<void, FileError> BookIndex::append(const AddressBook &book) const
@@ -87,7 +50,7 @@ tl::expected<void, FileError> BookIndex::append(const AddressBook &book) const
     if (!old)
         return tl::unexpected(old.error());
     const QString text = m_codePage.decode(*old);
-    const QString added = joint(text) + linesOf(book);
+    const QString added = additionTo(text, book);
     // The old bytes and the new may not read as what they are when they are put together: the one
     // in the code page, the other in UTF-8.
     QByteArray content = *old + m_codePage.encode(added);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "addressbook/IndexText.h"
 #include "base/CodePage.h"
 #include "base/Files.h"
 
@@ -7,17 +8,6 @@
 #include <QString>
 
 #include <tl/expected.hpp>
-
-#include <vector>
-
-/// One book of the index.
-struct AddressBook
-{
-    QString name;
-    QString file; ///< absolute, or relative to the program's folder; the key of the book
-
-    bool operator==(const AddressBook &) const = default;
-};
 
 /// The file "rubrica.ini" in the program's folder: two lines a book, name and file, and no sections
 /// despite its suffix. The first book is the standard book, which is never deleted.

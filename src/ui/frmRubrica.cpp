@@ -26,7 +26,10 @@ frmRubrica::frmRubrica(const WindowParts &parts, QWidget *parent)
       m_contacts(m_books)
 {
     m_ui->setupUi(this);
+    m_ui->splitter->setStretchFactor(0, 0);
     m_ui->splitter->setStretchFactor(1, 1);
+    // Both lists begin at the same height.
+    m_ui->lblRubriche->setMinimumHeight(m_ui->txtFind->sizeHint().height());
     bindBooks();
     bindContacts();
     addActions();
@@ -35,7 +38,7 @@ frmRubrica::frmRubrica(const WindowParts &parts, QWidget *parent)
 
     m_place.restoreSize(*this);
     if (!m_place.restoreParts(*m_ui->splitter, *m_ui->Elenco->header()))
-        m_ui->splitter->setSizes({width() * 3, width() * 7});
+        m_ui->splitter->setSizes({width() * 3 / 10, width() * 7 / 10});
     m_books.load();
     m_ui->Elenco->setFocus();
 }
@@ -107,7 +110,7 @@ void frmRubrica::bindContacts()
     list.header()->setSectionsClickable(true);
     list.header()->setSortIndicator(-1, Qt::AscendingOrder);
     list.header()->setSortIndicatorShown(true);
-    list.setColumnWidth(0, width() / 3);
+    list.setColumnWidth(0, width() * 3 / 8);
     connect(list.header(), &QHeaderView::sectionClicked, this, [this](int column) {
         keepSelection([this, column] { m_contacts.columnClick(column); });
         m_ui->Elenco->header()->setSortIndicator(column, m_contacts.shown().sortOrder());
@@ -187,8 +190,7 @@ void frmRubrica::showCount()
 
 void frmRubrica::showLine()
 {
-    m_ui->lblLine->setText(m_books.line());
-    m_ui->lblLine->setVisible(!m_books.line().isEmpty());
+    m_ui->line->setText(m_books.line());
 }
 
 std::vector<int> frmRubrica::selectedContacts() const

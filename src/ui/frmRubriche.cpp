@@ -24,12 +24,10 @@ frmRubriche::~frmRubriche() = default;
 void frmRubriche::LoadRubricheList(const BookIndex &index)
 {
     const auto books = index.LoadRubricheList();
-    m_ui->lblLine->setVisible(!books);
-    if (!books) {
-        m_ui->lblLine->setText(BookIndex::troubleOf(books.error()));
-        return;
-    }
-    showBooks(*m_ui->Rubriche, *books, 0);
+    if (books)
+        showBooks(*m_ui->Rubriche, *books, 0);
+    else
+        m_ui->line->setText(BookIndex::troubleOf(books.error()));
 }
 
 std::optional<QString> frmRubriche::selectedFile() const
