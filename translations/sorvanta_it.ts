@@ -15,14 +15,6 @@
 <context>
     <name>AddressBooks</name>
     <message>
-        <source>The contacts could not be saved: %1. If you leave the book all the same, what you have changed is lost.</source>
-        <translation>Impossibile salvare i contatti: %1. Lasciando comunque la rubrica, le modifiche andranno perse.</translation>
-    </message>
-    <message>
-        <source>Another program has changed this book meanwhile. Your contacts were saved as %1.</source>
-        <translation>Nel frattempo un altro programma ha modificato questa rubrica. I contatti sono stati salvati come %1.</translation>
-    </message>
-    <message>
         <source>The book could not be read to its end and cannot be changed: %1</source>
         <translation>Impossibile leggere la rubrica fino alla fine; non può essere modificata: %1</translation>
     </message>
@@ -47,20 +39,12 @@
         <translation>Il file selezionato è già in uso.</translation>
     </message>
     <message>
-        <source>The address book could not be added: %1</source>
-        <translation>Impossibile aggiungere la rubrica: %1</translation>
-    </message>
-    <message>
         <source>The standard address book can&apos;t be deleted.</source>
         <translation>La rubrica standard non può essere eliminata.</translation>
     </message>
     <message>
         <source>Are you sure to delete the selected address book? All the contacts will be deleted! Do you want to continue?</source>
         <translation>La rubrica selezionata insieme ai contatti in essa contenuti verrà eliminata. Procedere?</translation>
-    </message>
-    <message>
-        <source>The address book could not be removed: %1</source>
-        <translation>Impossibile rimuovere la rubrica: %1</translation>
     </message>
     <message>
         <source>Are you sure to delete *N* selected contact(s)?</source>
@@ -75,10 +59,6 @@
         <translation>Contatti (*.vcf; *.csv; *.txt; *.rub)|*.vcf; *.csv; *.txt; *.rub|Tutti i file (*.*)|*.*</translation>
     </message>
     <message>
-        <source>The contacts cannot be read: %1</source>
-        <translation>Impossibile leggere i contatti: %1</translation>
-    </message>
-    <message>
         <source>Contacts imported: %1</source>
         <translation>Contatti importati: %1</translation>
     </message>
@@ -89,6 +69,26 @@
     <message>
         <source>These contacts have no valid e-mail address and were left out:</source>
         <translation>Questi contatti non hanno un indirizzo e-mail valido e sono stati tralasciati:</translation>
+    </message>
+    <message>
+        <source>The contacts could not be saved: %1</source>
+        <translation>Impossibile salvare i contatti: %1</translation>
+    </message>
+    <message>
+        <source>This book was changed by another program meanwhile, or cannot be read any more. Your contacts were saved as %1.</source>
+        <translation>Questa rubrica è stata modificata nel frattempo da un altro programma, oppure non è più leggibile. I contatti sono stati salvati come %1.</translation>
+    </message>
+    <message>
+        <source>The address book could not be added.</source>
+        <translation>Impossibile aggiungere la rubrica.</translation>
+    </message>
+    <message>
+        <source>The address book could not be removed.</source>
+        <translation>Impossibile rimuovere la rubrica.</translation>
+    </message>
+    <message>
+        <source>The contacts cannot be read.</source>
+        <translation>Impossibile leggere i contatti.</translation>
     </message>
 </context>
 <context>
@@ -192,6 +192,14 @@
     <message>
         <source>Standard</source>
         <translation>Principale</translation>
+    </message>
+    <message>
+        <source>it begins as UTF-8 and goes on otherwise</source>
+        <translation>comincia come UTF-8 e prosegue diversamente</translation>
+    </message>
+    <message>
+        <source>its name has a line end</source>
+        <translation>il suo nome contiene un ritorno a capo</translation>
     </message>
 </context>
 <context>
@@ -479,6 +487,10 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <message>
         <source>line %1 has no &quot;;&quot;</source>
         <translation>la riga %1 non contiene &quot;;&quot;</translation>
+    </message>
+    <message>
+        <source>it begins as UTF-8 and goes on otherwise</source>
+        <translation>comincia come UTF-8 e prosegue diversamente</translation>
     </message>
 </context>
 <context>
@@ -2263,6 +2275,10 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <message>
         <source>Contacts</source>
         <translation>Contatti</translation>
+    </message>
+    <message>
+        <source>&amp;Give up the changes</source>
+        <translation>&amp;Scarta le modifiche</translation>
     </message>
 </context>
 <context>

@@ -4,16 +4,27 @@
 #include "addressbook/ContactImport.h"
 #include "base/modMain.h"
 
-#include <QFileInfo>
 #include <QPointer>
 
 #include <algorithm>
 
 namespace {
 
-Notice notice(Icon icon, const QString &text)
+Notice notice(Icon icon, const QString &text, const QString &detail = {})
 {
-    return {icon, QStringLiteral("Sorvanta"), text};
+    return {icon, QStringLiteral("Sorvanta"), text, detail};
+}
+
+Question question(Topic topic, const QString &text)
+{
+    return {topic, Icon::Exclamation, Buttons::OkCancel, QStringLiteral("Sorvanta"), text};
+}
+
+Contact withDisplayName(Contact contact)
+{
+    contact[ContactColumn::DisplayName] =
+        DisplayName(contact[ContactColumn::Name], contact[ContactColumn::Company]);
+    return contact;
 }
 
 } // namespace
@@ -47,53 +58,69 @@ bool AddressBooks::unload()
     return false;
 }
 
+void AddressBooks::endSession()
+{
+    if (!leave())
+        m_book.saveInto(m_programFolder);
+}
+
 bool AddressBooks::LoadRubricheList()
 {
     auto books = m_index.LoadRubricheList();
     m_indexIsWhole = books.has_value();
     m_books = m_indexIsWhole ? *std::move(books) : std::vector<AddressBook>();
     m_selected = -1;
-    m_book.close();
+    change([this] { m_book.close(); });
     if (!m_indexIsWhole)
         say(BookIndex::troubleOf(books.error()));
     Q_EMIT booksChanged();
-    Q_EMIT contactsChanged();
     return m_indexIsWhole;
 }
 
-// A book that cannot be saved is left only by who has read what that means.
+// Whoever holds a key down must not lose contacts: a book that cannot be saved is not left before
+// its changes are given up.
 bool AddressBooks::leave()
 {
+    m_isUnsaved = false;
     if (m_selected < 0)
         return true;
     const auto beside = m_book.SaveBookFile();
-    if (!beside) {
-        if (m_lossIsAnnounced)
-            return true;
-        m_lossIsAnnounced = true;
-        say(tr("The contacts could not be saved: %1. If you leave the book all the same, what you "
-               "have changed is lost.")
-                .arg(beside.error().toText()));
-        return false;
-    }
-    if (!beside->isEmpty()) {
-        say(tr("Another program has changed this book meanwhile. Your contacts were saved as %1.")
+    m_isUnsaved = !beside;
+    if (m_isUnsaved) {
+        say(tr("The contacts could not be saved: %1").arg(beside.error().toText()));
+    } else if (!beside->isEmpty()) {
+        say(tr("This book was changed by another program meanwhile, or cannot be read any more. "
+               "Your "
+               "contacts were saved as %1.")
                 .arg(*beside));
     }
-    return true;
+    return !m_isUnsaved;
 }
 
 void AddressBooks::open(int place)
 {
     m_selected = place;
-    m_lossIsAnnounced = false;
+    m_isUnsaved = false;
     const QString currentBookFile = m_books[static_cast<std::size_t>(place)].file;
-    if (const auto read = m_book.LoadBookFile(currentBookFile); !read) {
+    tl::expected<void, FileError> read;
+    change([&] { read = m_book.LoadBookFile(currentBookFile); });
+    if (!read) {
         say(tr("The book could not be read to its end and cannot be changed: %1")
                 .arg(read.error().toText()));
     }
     Q_EMIT booksChanged();
+}
+
+void AddressBooks::change(const std::function<void()> &contacts)
+{
+    Q_EMIT contactsAboutToChange();
+    contacts();
     Q_EMIT contactsChanged();
+}
+
+void AddressBooks::refuse(const QString &text, const FileError &error)
+{
+    m_prompts.notice(notice(Icon::Critical, text, error.toText()));
 }
 
 void AddressBooks::say(const QString &text)
@@ -122,16 +149,27 @@ void AddressBooks::Rubriche_Click(int place)
         Q_EMIT booksChanged(); // the selection goes back to the open one
 }
 
+void AddressBooks::cmdDiscard_Click()
+{
+    clearLine();
+    if (m_isUnsaved)
+        open(m_selected);
+}
+
+// Another program may have added books since the list was read.
+bool AddressBooks::isTaken(const std::function<bool(const AddressBook &)> &by) const
+{
+    const std::vector<AddressBook> books = m_index.LoadRubricheList().value_or(m_books);
+    return std::any_of(books.begin(), books.end(), by);
+}
+
 void AddressBooks::cmdAdd_Click()
 {
     const InputBox box{QStringLiteral("Sorvanta"), tr("Insert the name for the new address book:")};
     m_prompts.askText(box, whileOpen(), [this](const QString &name) {
         if (name.isEmpty())
             return;
-        const bool isTaken =
-            std::any_of(m_books.begin(), m_books.end(),
-                        [&](const AddressBook &book) { return book.name == name; });
-        if (isTaken)
+        if (isTaken([&](const AddressBook &book) { return book.name == name; }))
             m_prompts.notice(notice(Icon::Critical, tr("The specified name is already in use.")));
         else
             askFileOf(name);
@@ -151,10 +189,7 @@ void AddressBooks::askFileOf(const QString &name)
     m_prompts.askFile(dialog, whileOpen(), [this, name](const QString &file) {
         if (file.isEmpty())
             return;
-        const bool isTaken =
-            std::any_of(m_books.begin(), m_books.end(),
-                        [&](const AddressBook &book) { return book.file == file; });
-        if (isTaken)
+        if (isTaken([&](const AddressBook &book) { return book.file == file; }))
             m_prompts.notice(notice(Icon::Critical, tr("The specified file is already in use.")));
         else
             addBook({name, file});
@@ -166,21 +201,15 @@ void AddressBooks::addBook(const AddressBook &book)
     clearLine();
     if (!leave())
         return;
-    const QString path = ResolveProgramPath(book.file, m_programFolder);
-    const bool isThere = QFileInfo::exists(systemPath(path));
-    // A file that is there is kept: its contacts become the new book's.
-    auto added = isThere ? tl::expected<void, FileError>() : replaceWholeFile(path, {});
-    if (added)
-        added = m_index.append(book);
-    if (!added) {
-        say(tr("The address book could not be added: %1").arg(added.error().toText()));
+    if (const auto added = m_index.append(book); !added) {
+        refuse(tr("The address book could not be added."), added.error());
         return;
     }
     if (!LoadRubricheList())
         return;
-    const auto place = std::find(m_books.begin(), m_books.end(), book);
-    if (place != m_books.end())
-        open(static_cast<int>(place - m_books.begin()));
+    const auto place = std::find(m_books.rbegin(), m_books.rend(), book);
+    if (place != m_books.rend())
+        open(static_cast<int>(m_books.rend() - place) - 1);
 }
 
 void AddressBooks::cmdRemove_Click()
@@ -191,13 +220,10 @@ void AddressBooks::cmdRemove_Click()
         m_prompts.notice(notice(Icon::Critical, tr("The standard address book can't be deleted.")));
         return;
     }
-    Question question;
-    question.topic = Topic::DeleteBook;
-    question.buttons = Buttons::OkCancel;
-    question.title = QStringLiteral("Sorvanta");
-    question.text = tr("Are you sure to delete the selected address book? All the contacts will be "
-                       "deleted! Do you want to continue?");
-    m_prompts.ask(question, whileOpen(), [this](Answer answer) {
+    const QString text =
+        tr("Are you sure to delete the selected address book? All the contacts will be "
+           "deleted! Do you want to continue?");
+    m_prompts.ask(question(Topic::DeleteBook, text), whileOpen(), [this](Answer answer) {
         if (answer == Answer::Ok)
             removeSelected();
     });
@@ -210,56 +236,43 @@ void AddressBooks::removeSelected()
     clearLine();
     if (!leave())
         return;
-    // Another program may have added books since the list was read.
     if (!LoadRubricheList() || m_books.empty())
         return;
+    // Nothing but this entry goes, whatever other programs did to the list since it was read.
     std::vector<AddressBook> left = m_books;
     const auto place = std::find(left.begin() + 1, left.end(), removed);
-    if (place != left.end())
+    if (place != left.end()) {
         left.erase(place);
-    if (const auto saved = m_index.SaveRubricheList(left); saved)
-        m_books = std::move(left);
-    else
-        say(tr("The address book could not be removed: %1").arg(saved.error().toText()));
+        if (const auto saved = m_index.SaveRubricheList(left); saved)
+            m_books = std::move(left);
+        else
+            refuse(tr("The address book could not be removed."), saved.error());
+    }
     open(0);
 }
 
-void AddressBooks::cmdNew_Confirmed(Contact contact)
+void AddressBooks::cmdNew_Confirmed(const Contact &contact)
 {
-    contact[ContactColumn::DisplayName] =
-        DisplayName(contact[ContactColumn::Name], contact[ContactColumn::Company]);
-    m_book.append(contact);
-    m_lossIsAnnounced = false;
-    Q_EMIT contactsChanged();
-    Q_EMIT contactAdded(static_cast<int>(contactTable().size()));
+    change([&] { m_book.append(withDisplayName(contact)); });
+    Q_EMIT contactKept(static_cast<int>(contactTable().size()));
 }
 
-void AddressBooks::cmdEdit_Confirmed(int row, Contact contact)
+void AddressBooks::cmdEdit_Confirmed(int row, const Contact &contact)
 {
-    contact[ContactColumn::DisplayName] =
-        DisplayName(contact[ContactColumn::Name], contact[ContactColumn::Company]);
-    m_book.replace(row, contact);
-    m_lossIsAnnounced = false;
-    Q_EMIT contactsChanged();
+    change([&] { m_book.replace(row, withDisplayName(contact)); });
+    Q_EMIT contactKept(row);
 }
 
 void AddressBooks::cmdDelete_Click(const std::vector<int> &rows)
 {
     if (rows.empty())
         return;
-    Question question;
-    question.topic = Topic::DeleteContacts;
-    question.buttons = Buttons::OkCancel;
-    question.title = QStringLiteral("Sorvanta");
     // The Italian text has no "*N*" and says no number; that is intended.
-    question.text = tr("Are you sure to delete *N* selected contact(s)?")
-                        .replace(QLatin1String("*N*"), QString::number(rows.size()));
-    m_prompts.ask(question, whileOpen(), [this, rows](Answer answer) {
-        if (answer != Answer::Ok)
-            return;
-        m_book.remove(rows);
-        m_lossIsAnnounced = false;
-        Q_EMIT contactsChanged();
+    const QString text = tr("Are you sure to delete *N* selected contact(s)?")
+                             .replace(QLatin1String("*N*"), QString::number(rows.size()));
+    m_prompts.ask(question(Topic::DeleteContacts, text), whileOpen(), [this, rows](Answer answer) {
+        if (answer == Answer::Ok)
+            change([&] { m_book.remove(rows); });
     });
 }
 
@@ -279,16 +292,15 @@ void AddressBooks::import(const QString &path)
 {
     const auto content = readWholeFile(path);
     if (!content) {
-        m_prompts.notice(notice(
-            Icon::Critical, tr("The contacts cannot be read: %1").arg(content.error().toText())));
+        refuse(tr("The contacts cannot be read."), content.error());
         return;
     }
     const ImportedContacts imported = importContacts(*content, m_codePage);
-    for (const Contact &contact : imported.contacts)
-        m_book.append(contact);
     if (!imported.contacts.empty()) {
-        m_lossIsAnnounced = false;
-        Q_EMIT contactsChanged();
+        change([&] {
+            for (const Contact &contact : imported.contacts)
+                m_book.append(contact);
+        });
     }
     QString text = tr("Contacts imported: %1").arg(imported.contacts.size());
     if (imported.fieldsLeftOut > 0) {

@@ -6,6 +6,8 @@
 
 #include <QObject>
 
+#include <functional>
+
 /// What the address book window shows and does: the list of books, one of which is open, and the
 /// contacts of that one. Changes of contacts reach the file when the book is left. What could not
 /// be read or saved is said in a line of the window, never in a box.
@@ -19,9 +21,11 @@ public:
 
     /// Reads the index and opens its first book.
     void load();
-    /// Writes the open book back. False when something is to be read in the window first; asked
-    /// once more it goes on, also without what could not be saved.
+    /// Writes the open book back. False when it could not be saved, and when something is to be
+    /// read in the window first.
     [[nodiscard]] bool unload();
+    /// The program ends: what cannot be saved where it belongs goes into the program's folder.
+    void endSession();
 
     [[nodiscard]] const std::vector<AddressBook> &books() const { return m_books; }
     /// The place of the open book, from 0; -1 when there is none.
@@ -33,15 +37,19 @@ public:
     [[nodiscard]] bool canChangeContacts() const { return m_selected >= 0 && m_book.isWhole(); }
     /// What went wrong with a file; empty when nothing did.
     [[nodiscard]] QString line() const { return m_line; }
+    /// Whether the open book has changes that could not be saved. It is not left with them.
+    [[nodiscard]] bool isUnsaved() const { return m_isUnsaved; }
 
     /// A click on the book at that place, from 0; one on the open book saves it and reads it again.
     void Rubriche_Click(int place);
+    /// Gives up what could not be saved: the open book is read again.
+    void cmdDiscard_Click();
     void cmdAdd_Click();
     void cmdRemove_Click();
     /// A new contact from the editor: the display name is made here.
-    void cmdNew_Confirmed(Contact contact);
+    void cmdNew_Confirmed(const Contact &contact);
     /// The edited contact of that row, counted from 1.
-    void cmdEdit_Confirmed(int row, Contact contact);
+    void cmdEdit_Confirmed(int row, const Contact &contact);
     /// Asks before it deletes these rows, ascending.
     void cmdDelete_Click(const std::vector<int> &rows);
     /// Asks for a file of another program and adds its contacts.
@@ -49,19 +57,23 @@ public:
 
 Q_SIGNALS:
     void booksChanged();
+    void contactsAboutToChange();
     void contactsChanged();
-    /// The contact of that row, counted from 1, is new.
-    void contactAdded(int row);
+    /// The contact of that row, counted from 1, came from the editor.
+    void contactKept(int row);
     void lineChanged();
 
 private:
     bool LoadRubricheList();
     [[nodiscard]] bool leave();
     void open(int place);
+    void change(const std::function<void()> &contacts);
+    void refuse(const QString &text, const FileError &error);
     void say(const QString &text);
     void clearLine();
 
     void askFileOf(const QString &name);
+    [[nodiscard]] bool isTaken(const std::function<bool(const AddressBook &book)> &by) const;
     void addBook(const AddressBook &book);
     void removeSelected();
     void import(const QString &path);
@@ -75,6 +87,6 @@ private:
     bool m_indexIsWhole = false;
     int m_selected = -1;
     OpenBook m_book;
-    bool m_lossIsAnnounced = false; ///< the user knows that the open book cannot be saved
+    bool m_isUnsaved = false;
     QString m_line;
 };

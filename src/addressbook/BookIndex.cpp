@@ -1,5 +1,6 @@
 #include "addressbook/BookIndex.h"
 
+#include "base/Lines.h"
 #include "base/modMain.h"
 
 #include <QFileInfo>
@@ -19,7 +20,15 @@ tl::expected<std::vector<AddressBook>, FileError> BookIndex::LoadRubricheList() 
     const auto read = [this](const QByteArray &content) {
         return readIndexText(m_codePage.decode(content));
     };
-    return readWholeFile(m_path).map(read);
+    return content().map(read);
+}
+
+tl::expected<QByteArray, FileError> BookIndex::content() const
+{
+    auto read = readWholeFile(m_path);
+    if (read && isBrokenUtf8(*read))
+        return tl::unexpected(FileError{m_path, tr("it begins as UTF-8 and goes on otherwise")});
+    return read;
 }
 
 QString BookIndex::troubleOf(const FileError &error)
@@ -30,12 +39,17 @@ QString BookIndex::troubleOf(const FileError &error)
 tl::expected<void, FileError> BookIndex::makeFirst() const
 {
     const AddressBook standard{tr("Standard"), QStringLiteral("rubrica.rub")};
-    const QString file = ResolveProgramPath(standard.file, m_programFolder);
-    if (!QFileInfo::exists(systemPath(file))) {
-        if (const auto made = replaceWholeFile(file, {}); !made)
-            return made;
-    }
+    if (const auto made = makeFileOf(standard); !made)
+        return made;
     return SaveRubricheList({standard});
+}
+
+tl::expected<void, FileError> BookIndex::makeFileOf(const AddressBook &book) const
+{
+    const QString file = ResolveProgramPath(book.file, m_programFolder);
+    if (QFileInfo::exists(systemPath(file)))
+        return {};
+    return replaceWholeFile(file, {});
 }
 
 tl::expected<void, FileError>
@@ -46,9 +60,13 @@ BookIndex::SaveRubricheList(const std::vector<AddressBook> &books) const
 
 tl::expected<void, FileError> BookIndex::append(const AddressBook &book) const
 {
-    const auto old = readWholeFile(m_path);
+    if (oneLine(book.file) != book.file)
+        return tl::unexpected(FileError{book.file, tr("its name has a line end")});
+    const auto old = content();
     if (!old)
         return tl::unexpected(old.error());
+    if (const auto made = makeFileOf(book); !made)
+        return made;
     const QString text = m_codePage.decode(*old);
     const QString added = additionTo(text, book);
     // The old bytes and the new may not read as what they are when they are put together: the one

@@ -26,11 +26,14 @@ public:
     /// Replaces the index as a whole.
     [[nodiscard]] tl::expected<void, FileError>
     SaveRubricheList(const std::vector<AddressBook> &books) const;
-    /// Puts a book at the end; what stands before it stays byte for byte wherever it can.
+    /// Puts a book at the end; what stands before it stays byte for byte wherever it can. A file
+    /// that is not there is made, empty; one that is there is kept, with its contacts.
     [[nodiscard]] tl::expected<void, FileError> append(const AddressBook &book) const;
 
 private:
+    [[nodiscard]] tl::expected<QByteArray, FileError> content() const;
     [[nodiscard]] tl::expected<void, FileError> makeFirst() const;
+    [[nodiscard]] tl::expected<void, FileError> makeFileOf(const AddressBook &book) const;
 
     const CodePage &m_codePage;
     QString m_programFolder;

@@ -46,11 +46,13 @@ QString fitForBook(ContactColumn column, QString text)
     return oneLine(text).replace(u';', u',').trimmed();
 }
 
-/// Whether a book file keeps the address: it would cut it at "#", and part it at ";".
+/// Whether a book file keeps the address (it would cut it at "#", and part it at ";"), and whether
+/// it is one: what stands in angle brackets beside a name is none yet.
 bool isKeptByBook(const QString &address)
 {
     return IsValidEmail(address) && std::none_of(address.begin(), address.end(), [](QChar c) {
-               return c == u'#' || c == u';' || c.isSpace();
+               return QStringView(u"#;<>\"").contains(c) || c.isSpace() ||
+                      c.category() == QChar::Other_Control;
            });
 }
 

@@ -52,6 +52,8 @@ tl::expected<void, FileError> OpenBook::LoadBookFile(const QString &currentBookF
     if (!content)
         return tl::unexpected(content.error());
     m_onDisk = *std::move(content);
+    if (m_onDisk && isBrokenUtf8(*m_onDisk))
+        return tl::unexpected(FileError{m_path, tr("it begins as UTF-8 and goes on otherwise")});
     BookText book = readBookText(m_codePage.decode(m_onDisk.value_or(QByteArray())));
     m_contactTable = std::move(book.contactTable);
     m_isWhole = book.brokenLine == 0;
@@ -75,17 +77,13 @@ tl::expected<QString, FileError> OpenBook::SaveBookFile()
 
 tl::expected<QString, FileError> OpenBook::write()
 {
-    const auto onDisk = contentOf(m_path);
-    if (!onDisk)
-        return tl::unexpected(onDisk.error());
     const QByteArray content = m_codePage.encode(bookTextOf(m_contactTable));
-    QString beside;
-    if (*onDisk && *onDisk != m_onDisk && *onDisk != content) {
-        if (!m_isChanged)
-            return QString();
-        beside = freePathBeside(m_path);
-    }
-    if (*onDisk != content) {
+    const auto onDisk = contentOf(m_path);
+    const bool isOurs = onDisk && (!*onDisk || *onDisk == m_onDisk || *onDisk == content);
+    if (!isOurs && !m_isChanged)
+        return QString();
+    const QString beside = isOurs ? QString() : freePathBeside(m_path);
+    if (!isOurs || *onDisk != content) {
         const QString &path = beside.isEmpty() ? m_path : beside;
         if (const auto written = replaceWholeFile(path, content); !written)
             return tl::unexpected(written.error());
@@ -93,6 +91,14 @@ tl::expected<QString, FileError> OpenBook::write()
     if (beside.isEmpty())
         m_onDisk = content;
     return beside;
+}
+
+void OpenBook::saveInto(const QString &folder) const
+{
+    if (!m_isChanged)
+        return;
+    const QString path = freePathBeside(joinPath(folder, fileNameOf(m_path)));
+    static_cast<void>(replaceWholeFile(path, m_codePage.encode(bookTextOf(m_contactTable))));
 }
 
 void OpenBook::append(const Contact &contact)

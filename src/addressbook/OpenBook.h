@@ -26,9 +26,13 @@ public:
     /// Reads the book, absolute or relative to the program's folder, in the place of the one that
     /// was open. One that is not there is empty. After an error the contacts before it are there.
     [[nodiscard]] tl::expected<void, FileError> LoadBookFile(const QString &currentBookFile);
-    /// Replaces the book's file. When another program has changed it meanwhile, what was changed
-    /// here is saved beside it, and the path of that file returned; else an empty text.
+    /// Replaces the book's file. When another program has changed it meanwhile, or it cannot be
+    /// read any more, what was changed here is saved beside it, and the path of that file returned;
+    /// else an empty text.
     [[nodiscard]] tl::expected<QString, FileError> SaveBookFile();
+
+    /// The last resort: what was changed goes into that folder, under a free name.
+    void saveInto(const QString &folder) const;
 
     void append(const Contact &contact);
     /// Rows are counted from 1.

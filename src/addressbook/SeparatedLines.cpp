@@ -135,7 +135,11 @@ std::vector<ForeignContact> readSeparatedLines(QStringView text)
         ForeignContact contact;
         for (qsizetype i = 0; i < fields.size(); ++i)
             contact.fields[ColumnsInFile[i]] = fields[i];
-        contact.addresses.append(std::exchange(contact.fields[ContactColumn::Email], {}));
+        QString address = std::exchange(contact.fields[ContactColumn::Email], {});
+        // A comment, as in the files of books and of recipients.
+        if (const qsizetype comment = address.indexOf(u'#'); comment >= 0)
+            address.truncate(comment);
+        contact.addresses.append(address);
         contacts.push_back(std::move(contact));
     }
     return contacts;

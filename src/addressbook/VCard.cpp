@@ -36,6 +36,7 @@ public:
     [[nodiscard]] ForeignContact contact() const;
 
 private:
+    void loseLine();
     void takeName(const VCardProperty &property);
     void takeOrganisation(const VCardProperty &property);
     void takePostalAddress(const VCardProperty &property);
@@ -47,6 +48,7 @@ private:
     QString m_formattedName;
     QString m_structuredName;
     QStringList m_notes;
+    bool m_isLosing = false; ///< the line before was left out
     std::optional<int> m_preferenceOfPostalAddress;
 };
 
@@ -54,8 +56,11 @@ void Card::take(const VCardProperty &property)
 {
     static constexpr std::array Unimportant{"BEGIN", "END", "VERSION", "PRODID", "REV", "UID"};
     const QByteArray &name = property.name();
+    if (property.isBroken())
+        loseLine();
     if (!property.hasContent())
         return;
+    const int before = m_contact.fieldsLeftOut;
     if (name == "FN")
         takeIfFirst(m_formattedName, property.text(m_codePage));
     else if (name == "N")
@@ -72,6 +77,15 @@ void Card::take(const VCardProperty &property)
         m_notes += property.text(m_codePage);
     else if (std::find(Unimportant.begin(), Unimportant.end(), name) == Unimportant.end())
         ++m_contact.fieldsLeftOut;
+    m_isLosing = m_contact.fieldsLeftOut > before;
+}
+
+// The lines of a picture or a note whose folds are missing are one piece of information.
+void Card::loseLine()
+{
+    if (!m_isLosing)
+        ++m_contact.fieldsLeftOut;
+    m_isLosing = true;
 }
 
 void Card::takeName(const VCardProperty &property)
@@ -112,6 +126,10 @@ void Card::takePostalAddress(const VCardProperty &property)
 void Card::takeTelephone(const VCardProperty &property)
 {
     ContactColumn column = ContactColumn::Telephone;
+    if (property.has("TYPE", "PAGER")) {
+        ++m_contact.fieldsLeftOut;
+        return;
+    }
     if (property.has("TYPE", "FAX"))
         column = ContactColumn::Fax;
     else if (property.has("TYPE", "CELL"))
@@ -158,7 +176,7 @@ std::vector<ForeignContact> readVCards(QByteArrayView content, const CodePage &c
     std::optional<Card> card;
     // In the 2.1 format the card of an agent stands within the card of whom it acts for.
     bool agentFollows = false;
-    bool insideAgent = false;
+    int depthInAgent = 0;
     const auto finish = [&] {
         if (card)
             contacts.push_back(card->contact());
@@ -168,19 +186,22 @@ std::vector<ForeignContact> readVCards(QByteArrayView content, const CodePage &c
     while (const std::optional<QByteArray> line = lines.next()) {
         const VCardProperty property(*line);
         if (property.delimitsCard("BEGIN")) {
-            insideAgent = agentFollows;
-            if (!insideAgent) {
+            if (agentFollows || depthInAgent > 0) {
+                ++depthInAgent;
+            } else {
                 finish();
                 card.emplace(codePage);
             }
         } else if (property.delimitsCard("END")) {
-            if (!insideAgent)
+            if (depthInAgent > 0)
+                --depthInAgent;
+            else
                 finish();
-            insideAgent = false;
-        } else if (card && !insideAgent) {
+        } else if (card && depthInAgent == 0) {
             card->take(property);
         }
-        agentFollows = card && property.name() == "AGENT" && !property.hasContent();
+        if (!line->trimmed().isEmpty())
+            agentFollows = card && property.name() == "AGENT" && !property.hasContent();
     }
     finish();
     return contacts;

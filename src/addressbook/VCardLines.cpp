@@ -66,7 +66,8 @@ QString unescaped(QStringView text)
     return plain;
 }
 
-/// The length of the text up to the first of these characters that is not between double quotes.
+/// The length of the text up to the first of these characters that is not between double quotes. A
+/// quote that is never closed is a character like others.
 qsizetype lengthUpTo(QByteArrayView characters, QByteArrayView text)
 {
     bool quoted = false;
@@ -74,7 +75,10 @@ qsizetype lengthUpTo(QByteArrayView characters, QByteArrayView text)
         quoted ^= c == '"';
         return !quoted && characters.contains(c);
     });
-    return end - text.begin();
+    if (!quoted)
+        return end - text.begin();
+    return std::find_if(text.begin(), text.end(), [&](char c) { return characters.contains(c); }) -
+           text.begin();
 }
 
 } // namespace
@@ -130,6 +134,7 @@ VCardProperty::VCardProperty(const QByteArray &line)
         m_parameters.push_back({parameter.left(std::max<qsizetype>(equals, 0)).trimmed(),
                                 parameter.mid(equals + 1).trimmed().split(',')});
     }
+    m_isBroken = rest.isEmpty() && !line.trimmed().isEmpty();
     if (rest.isEmpty())
         return;
     m_name = name.mid(name.lastIndexOf('.') + 1);

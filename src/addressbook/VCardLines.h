@@ -34,6 +34,8 @@ public:
 
     /// In capitals, without the group.
     [[nodiscard]] const QByteArray &name() const { return m_name; }
+    /// Whether it is a line with a text that says nothing: one of a note whose folds are missing.
+    [[nodiscard]] bool isBroken() const { return m_isBroken; }
     /// Whether this is "BEGIN:VCARD" or "END:VCARD", for the name in capitals.
     [[nodiscard]] bool delimitsCard(QByteArrayView name) const;
     /// Whether there is more than separators.
@@ -60,6 +62,7 @@ private:
     [[nodiscard]] QByteArray decodedBytes() const;
     [[nodiscard]] QString escapedText(const CodePage &codePage) const;
 
+    bool m_isBroken = false;
     QByteArray m_name;
     std::vector<Parameter> m_parameters;
     QByteArray m_value;

@@ -66,6 +66,11 @@ bool readsAsUtf8(QByteArrayView bytes)
     return !isAscii(bytes) && bytes.isValidUtf8();
 }
 
+bool isBrokenUtf8(QByteArrayView bytes)
+{
+    return bytes.startsWith(ByteOrderMark) && !bytes.isValidUtf8();
+}
+
 CodePage::CodePage(const QByteArray &name) : m_name(name)
 {
     if (!QStringDecoder(m_name.constData()).isValid())

@@ -40,3 +40,7 @@ private:
 /// Whether the bytes are UTF-8 that says so: a byte-order mark, or at least one multi-byte sequence
 /// and nothing invalid.
 [[nodiscard]] bool readsAsUtf8(QByteArrayView bytes);
+
+/// Whether the bytes say that they are UTF-8 by a byte-order mark, and are not: what they hold
+/// cannot be read without a loss.
+[[nodiscard]] bool isBrokenUtf8(QByteArrayView bytes);

@@ -9,6 +9,9 @@ AddressBookWindows::AddressBookWindows(const WindowParts &parts, QWidget &window
 
 void AddressBookWindows::mnuRubrica_Click()
 {
+    // Desktops that show the menus elsewhere do not know that a dialog blocks them.
+    if (m_addressBook && m_addressBook->isVisible())
+        return;
     m_addressBook = new frmRubrica(m_parts, &m_window);
     m_addressBook->setAttribute(Qt::WA_DeleteOnClose);
     m_addressBook->open();

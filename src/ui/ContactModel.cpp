@@ -12,8 +12,8 @@ constexpr std::array Columns{ContactColumn::DisplayName, ContactColumn::Email};
 ContactModel::ContactModel(const AddressBooks &books, QObject *parent)
     : QAbstractTableModel(parent), m_books(books)
 {
+    connect(&books, &AddressBooks::contactsAboutToChange, this, [this] { beginResetModel(); });
     connect(&books, &AddressBooks::contactsChanged, this, [this] {
-        beginResetModel();
         m_shown.setContacts(m_books.contactTable());
         endResetModel();
     });
@@ -56,6 +56,8 @@ int ContactModel::columnCount(const QModelIndex &parent) const
 
 QVariant ContactModel::data(const QModelIndex &index, int role) const
 {
+    if (!index.isValid())
+        return {};
     const int row = rowAt(index.row() + 1);
     if (role == Qt::DisplayRole)
         return contact(row)[Columns[static_cast<std::size_t>(index.column())]];

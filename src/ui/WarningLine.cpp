@@ -2,6 +2,7 @@
 
 #include "ui/Pictures.h"
 
+#include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
@@ -19,6 +20,7 @@ WarningLine::WarningLine(QWidget *parent) : QWidget(parent), m_label(new QLabel(
     layout->setContentsMargins({});
     layout->addWidget(sign, 0, Qt::AlignTop);
     layout->addWidget(m_label, 1);
+    m_label->setFocusPolicy(Qt::StrongFocus);
     hide();
 }
 
@@ -26,4 +28,8 @@ void WarningLine::setText(const QString &text)
 {
     m_label->setText(text);
     setVisible(!text.isEmpty());
+    if (!text.isEmpty()) {
+        QAccessibleEvent alert(m_label, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
 }

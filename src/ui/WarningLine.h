@@ -5,7 +5,7 @@
 class QLabel;
 
 /// A line of a window that says what went wrong, with a sign before it; not there when nothing did.
-/// Its label is named "lblLine".
+/// Screen readers say it at once. Its label is named "lblLine".
 class WarningLine : public QWidget
 {
     Q_OBJECT

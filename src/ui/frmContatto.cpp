@@ -1,6 +1,7 @@
 #include "ui/frmContatto.h"
 
 #include "addressbook/ContactCheck.h"
+#include "base/Lines.h"
 #include "ui_frmContatto.h"
 
 #include <QPushButton>
@@ -25,6 +26,14 @@ const std::array Lines{
     Line{&Ui::frmContatto::txtFax, ContactColumn::Fax},
     Line{&Ui::frmContatto::txtCel, ContactColumn::Mobile},
 };
+
+// What is pasted from a table ends with the end of its row, which no one-line field has.
+QString pastedLine(QString text)
+{
+    while (text.endsWith(u'\r') || text.endsWith(u'\n'))
+        text.chop(1);
+    return oneLine(text);
+}
 
 // Files have CR LF where the box has paragraphs. Its plain text would turn the blanks that part no
 // line into common ones.
@@ -84,6 +93,7 @@ void frmContatto::Edit()
 
 void frmContatto::fill(const Contact &contact)
 {
+    m_filled = contact;
     for (const auto &[box, column] : Lines)
         (m_ui.get()->*box)->setText(contact[column]);
     m_ui->txtNotes->setPlainText(contact[ContactColumn::Notes]);
@@ -91,10 +101,14 @@ void frmContatto::fill(const Contact &contact)
 
 Contact frmContatto::contact() const
 {
-    Contact contact;
-    for (const auto &[box, column] : Lines)
-        contact[column] = (m_ui.get()->*box)->text();
-    contact[ContactColumn::Notes] = notesOf(*m_ui->txtNotes->document());
+    // A box shows less than a field may hold: what nobody touched stays as it was.
+    Contact contact = m_filled;
+    for (const auto &[box, column] : Lines) {
+        if (const QLineEdit &edit = *(m_ui.get()->*box); edit.isModified())
+            contact[column] = pastedLine(edit.text());
+    }
+    if (m_ui->txtNotes->document()->isModified())
+        contact[ContactColumn::Notes] = notesOf(*m_ui->txtNotes->document());
     return contact;
 }
 

@@ -26,6 +26,7 @@ public:
 
     /// From now on it edits a contact that there is.
     void Edit();
+    /// Shows the fields of that contact.
     void fill(const Contact &contact);
     /// What its boxes hold; the display name is not among them.
     [[nodiscard]] Contact contact() const;
@@ -41,6 +42,7 @@ private:
 
     std::unique_ptr<Ui::frmContatto> m_ui;
     Language m_language;
+    Contact m_filled;
     Prompts &m_prompts;
     WindowPlace m_place;
 };

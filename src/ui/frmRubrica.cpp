@@ -33,8 +33,11 @@ frmRubrica::frmRubrica(const WindowParts &parts, QWidget *parent)
     bindBooks();
     bindContacts();
     addActions();
+    Localize();
     connect(m_ui->cmdClose, &QPushButton::clicked, this, &frmRubrica::reject);
     connect(&m_books, &AddressBooks::lineChanged, this, &frmRubrica::showLine);
+    connect(&m_books, &AddressBooks::booksChanged, this, &frmRubrica::showLine);
+    connect(m_ui->cmdDiscard, &QPushButton::clicked, &m_books, &AddressBooks::cmdDiscard_Click);
 
     m_place.restoreSize(*this);
     if (!m_place.restoreParts(*m_ui->splitter, *m_ui->Elenco->header()))
@@ -47,8 +50,7 @@ frmRubrica::~frmRubrica() = default;
 
 void frmRubrica::endSession()
 {
-    // What cannot be saved has nowhere else to go.
-    static_cast<void>(m_books.unload());
+    m_books.endSession();
 }
 
 void frmRubrica::reject()
@@ -71,6 +73,8 @@ void frmRubrica::Localize()
 {
     m_ui->retranslateUi(this);
     m_contacts.translateHeadings();
+    for (const auto &[entry, text] : m_entries)
+        entry->setText(tr(text));
     showCount();
 }
 
@@ -85,13 +89,15 @@ void frmRubrica::bindBooks()
     connect(&list, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem *book) {
         if (book == nullptr)
             return;
-        m_openedByPress = QGuiApplication::mouseButtons() != Qt::NoButton;
+        m_opens = true;
         const int place = m_ui->Rubriche->indexOfTopLevelItem(book);
         QMetaObject::invokeMethod(
             &m_books, [this, place] { m_books.Rubriche_Click(place); }, Qt::QueuedConnection);
     });
+    connect(&list, &QTreeWidget::itemPressed, this,
+            [this] { m_openedByPress = std::exchange(m_opens, false); });
     connect(&list, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem *book) {
-        if (!std::exchange(m_openedByPress, false))
+        if (!m_openedByPress)
             m_books.Rubriche_Click(m_ui->Rubriche->indexOfTopLevelItem(book));
     });
     const auto press = [&list](Qt::Key key, QPushButton *button) {
@@ -117,11 +123,18 @@ void frmRubrica::bindContacts()
     });
     connect(&list, &QTreeView::doubleClicked, this, &frmRubrica::cmdEdit_Click);
     connect(&m_contacts, &ContactModel::modelReset, this, &frmRubrica::showCount);
-    connect(&m_books, &AddressBooks::contactAdded, this, &frmRubrica::showNewContact);
+    // Connected behind the list's own, which forgets where the keys were.
+    connect(&m_contacts, &ContactModel::modelAboutToBeReset, this,
+            [this, &list] { m_currentPlace = list.currentIndex().row(); });
+    connect(&m_contacts, &ContactModel::modelReset, this, [this, &list] {
+        const int place = qMin(m_currentPlace, m_contacts.rowCount() - 1);
+        list.selectionModel()->setCurrentIndex(m_contacts.index(place, 0),
+                                               QItemSelectionModel::NoUpdate);
+    });
+    connect(&m_books, &AddressBooks::contactKept, this, &frmRubrica::showContact);
     connect(m_ui->cmdNew, &QPushButton::clicked, this, &frmRubrica::cmdNew_Click);
     connect(m_ui->cmdEdit, &QPushButton::clicked, this, &frmRubrica::cmdEdit_Click);
-    connect(m_ui->cmdDelete, &QPushButton::clicked, this,
-            [this] { m_books.cmdDelete_Click(selectedContacts()); });
+    connect(m_ui->cmdDelete, &QPushButton::clicked, this, &frmRubrica::cmdDelete_Click);
 
     connect(m_ui->txtFind, &QLineEdit::textChanged, this,
             [this](const QString &words) { keepSelection([&] { m_contacts.find(words); }); });
@@ -135,15 +148,16 @@ void frmRubrica::bindContacts()
             [clear](const QString &words) { clear->setEnabled(!words.isEmpty()); });
 }
 
-// The entries of the context menu of the contacts, and their keys.
+// The entries of the context menu of the contacts, and their keys. Localize gives them their texts.
 void frmRubrica::addActions()
 {
-    const auto add = [this](const QString &text, const QList<QKeySequence> &keys, auto procedure) {
-        auto *const action = new QAction(text, this);
+    const auto add = [this](const char *text, const QList<QKeySequence> &keys, auto procedure) {
+        auto *const action = new QAction(this);
         action->setShortcuts(keys);
         action->setShortcutContext(Qt::WidgetShortcut);
         connect(action, &QAction::triggered, this, procedure);
         m_ui->Elenco->addAction(action);
+        m_entries.emplace_back(action, text);
         return action;
     };
     const auto separate = [this] {
@@ -152,16 +166,17 @@ void frmRubrica::addActions()
         m_ui->Elenco->addAction(separator);
     };
     m_changes = {
-        add(tr("New"), {Qt::Key_Insert}, [this] { m_ui->cmdNew->click(); }),
-        add(tr("Edit"), {Qt::Key_F2, Qt::Key_Return, Qt::Key_Enter},
+        add(QT_TR_NOOP("New"), {Qt::Key_Insert}, [this] { m_ui->cmdNew->click(); }),
+        add(QT_TR_NOOP("Edit"), {Qt::Key_F2, Qt::Key_Return, Qt::Key_Enter},
             [this] { m_ui->cmdEdit->click(); }),
-        add(tr("Delete"), {Qt::Key_Delete}, [this] { m_ui->cmdDelete->click(); }),
+        add(QT_TR_NOOP("Delete"), {Qt::Key_Delete}, [this] { m_ui->cmdDelete->click(); }),
     };
     separate();
-    add(tr("Copy as text"), {QKeySequence::Copy}, [this] { copy(); });
-    add(tr("Add to recipients"), {}, [this] { addToRecipients(); });
+    add(QT_TR_NOOP("Copy as text"), {QKeySequence::Copy}, [this] { copy(); });
+    add(QT_TR_NOOP("Add to recipients"), {}, [this] { addToRecipients(); });
     separate();
-    m_changes.push_back(add(tr("Import contacts..."), {}, [this] { m_books.mnuImport_Click(); }));
+    m_changes.push_back(
+        add(QT_TR_NOOP("Import contacts..."), {}, [this] { m_books.mnuImport_Click(); }));
 }
 
 void frmRubrica::showBooks()
@@ -191,6 +206,7 @@ void frmRubrica::showCount()
 void frmRubrica::showLine()
 {
     m_ui->line->setText(m_books.line());
+    m_ui->cmdDiscard->setVisible(m_books.isUnsaved());
 }
 
 std::vector<int> frmRubrica::selectedContacts() const
@@ -207,7 +223,19 @@ void frmRubrica::keepSelection(const std::function<void()> &change)
 {
     const std::vector<int> rows = selectedContacts();
     change();
-    const std::vector<int> places = m_contacts.placesOf(rows);
+    select(m_contacts.placesOf(rows));
+}
+
+// A contact that is not what is looked for would seem to be lost.
+void frmRubrica::showContact(int row)
+{
+    if (!m_contacts.shown().shows(row))
+        m_ui->txtFind->clear();
+    select(m_contacts.placesOf({row}));
+}
+
+void frmRubrica::select(const std::vector<int> &places)
+{
     QItemSelectionModel &selection = *m_ui->Elenco->selectionModel();
     selectRows(selection, places);
     if (places.empty())
@@ -217,19 +245,6 @@ void frmRubrica::keepSelection(const std::function<void()> &change)
     m_ui->Elenco->scrollTo(first);
 }
 
-// A contact that is not what is looked for would seem to be lost.
-void frmRubrica::showNewContact(int row)
-{
-    if (!m_contacts.shown().shows(row))
-        m_ui->txtFind->clear();
-    QItemSelectionModel &selection = *m_ui->Elenco->selectionModel();
-    const std::vector<int> places = m_contacts.placesOf({row});
-    selectRows(selection, places);
-    const QModelIndex place = m_contacts.index(places.front() - 1, 0);
-    selection.setCurrentIndex(place, QItemSelectionModel::NoUpdate);
-    m_ui->Elenco->scrollTo(place);
-}
-
 void frmRubrica::cmdNew_Click()
 {
     edit({}, 0);
@@ -237,11 +252,19 @@ void frmRubrica::cmdNew_Click()
 
 void frmRubrica::cmdEdit_Click()
 {
-    const QModelIndex current = m_ui->Elenco->currentIndex();
-    if (!m_books.canChangeContacts() || !m_ui->Elenco->selectionModel()->isSelected(current))
+    const std::vector<int> places = selectedRows(*m_ui->Elenco->selectionModel());
+    if (places.empty() || !m_books.canChangeContacts())
         return;
-    const int row = m_contacts.rowAt(current.row() + 1);
+    // Of several the one that the keys are at.
+    const int current = m_ui->Elenco->currentIndex().row() + 1;
+    const bool isSelected = std::binary_search(places.begin(), places.end(), current);
+    const int row = m_contacts.rowAt(isSelected ? current : places.front());
     edit(m_contacts.contact(row), row);
+}
+
+void frmRubrica::cmdDelete_Click()
+{
+    m_books.cmdDelete_Click(selectedContacts());
 }
 
 // Row 0 is a new contact.
@@ -250,13 +273,13 @@ void frmRubrica::edit(const Contact &contact, int row)
     auto *const editor = new frmContatto(windowTitle(), m_prompts, m_placeFile, this);
     if (row > 0) {
         editor->Edit();
-        editor->fill(contact);
     }
+    editor->fill(contact);
     connect(editor, &QDialog::finished, this, [this, editor, row] {
         if (editor->Cancelled)
             return;
         if (row > 0)
-            keepSelection([&] { m_books.cmdEdit_Confirmed(row, editor->contact()); });
+            m_books.cmdEdit_Confirmed(row, editor->contact());
         else
             m_books.cmdNew_Confirmed(editor->contact());
     });
@@ -271,7 +294,8 @@ void frmRubrica::copy() const
         const Contact &contact = m_contacts.contact(m_contacts.rowAt(place));
         text += contact[ContactColumn::DisplayName] + u'\t' + contact[ContactColumn::Email] + u'\n';
     }
-    QGuiApplication::clipboard()->setText(text);
+    if (!text.isEmpty())
+        QGuiApplication::clipboard()->setText(text);
 }
 
 void frmRubrica::addToRecipients()

@@ -9,6 +9,8 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace Ui {
 class frmRubrica;
@@ -41,11 +43,13 @@ private:
     void showCount();
     void showLine();
     void applyRights();
-    void showNewContact(int row);
+    void showContact(int row);
     void keepSelection(const std::function<void()> &change);
+    void select(const std::vector<int> &places);
 
     void cmdNew_Click();
     void cmdEdit_Click();
+    void cmdDelete_Click();
     void edit(const Contact &contact, int row);
     [[nodiscard]] std::vector<int> selectedContacts() const;
     void copy() const;
@@ -60,5 +64,8 @@ private:
     AddressBooks m_books;
     ContactModel m_contacts;
     std::vector<QAction *> m_changes; ///< what needs a book that may be changed
-    bool m_openedByPress = false;     ///< the click that is under way has opened the book already
+    std::vector<std::pair<QAction *, const char *>> m_entries; ///< with their English texts
+    int m_currentPlace = -1;      ///< of the contact that the keys are at, while all change
+    bool m_opens = false;         ///< the selection moved, and the book is opened by that
+    bool m_openedByPress = false; ///< so it is by the press whose click is to come
 };

@@ -32,8 +32,8 @@ void frmRubriche::LoadRubricheList(const BookIndex &index)
 
 std::optional<QString> frmRubriche::selectedFile() const
 {
-    const QTreeWidgetItem *const book = m_ui->Rubriche->currentItem();
-    return book == nullptr ? std::nullopt : std::optional(fileOf(*book));
+    const QList<QTreeWidgetItem *> selected = m_ui->Rubriche->selectedItems();
+    return selected.isEmpty() ? std::nullopt : std::optional(fileOf(*selected.front()));
 }
 
 void frmRubriche::cmdOK_Click()

@@ -19,8 +19,10 @@ private Q_SLOTS:
     void changesAreKeptInMemoryUntilTheBookIsLeft();
     void closingWithoutChangesWritesWhatWasRead();
     void whatAnotherProgramChangedIsSaidAndShown();
-    void aBookThatCannotBeSavedHoldsOnce();
-    void aBookThatCannotBeSavedHoldsAClickOnce();
+    void aBookThatCannotBeSavedIsNotLeft();
+    void whatCannotBeSavedCanBeGivenUp();
+    void aBookThatCannotBeReadAnyMoreIsSavedBeside();
+    void theEndOfTheSessionSavesWhereItCan();
     void aNewBookIsAddedSelectedAndOpened();
     void theProposedNameIsFree();
     void aNameThatIsTakenIsRefused();
@@ -30,6 +32,8 @@ private Q_SLOTS:
     void noNameAndNoFileEndTheCommand();
     void theOpenBookIsSavedBeforeANewOneIsOpened();
     void aNewBookThatCannotBeMadeChangesNothing();
+    void aListThatCannotBeSavedStays();
+    void whatAnotherProgramAddedIsTakenToo();
     void theStandardBookIsNotDeleted();
     void theOnlyBookIsNotDeletedEither();
     void aDeletedBookLeavesItsFile();

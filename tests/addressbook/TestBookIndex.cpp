@@ -110,6 +110,27 @@ void TestBookIndex::anIndexThatCannotBeReadStays()
     QVERIFY(!QFileInfo::exists(rig.folder.filePath(u"rubrica.rub"_s)));
 }
 
+void TestBookIndex::anIndexThatOnlyBeginsAsUtf8Stays()
+{
+    const IndexRig rig;
+    const QByteArray content = "\xEF\xBB\xBFZo\xEB\r\nzoe.rub\r\n";
+    rig.write(content);
+    QVERIFY(!rig.index.LoadRubricheList());
+    QVERIFY(!rig.index.append({u"Soci"_s, u"soci.rub"_s}));
+    QCOMPARE(rig.content(), content);
+}
+
+void TestBookIndex::aFileWhoseNameHasALineEndIsNoBook()
+{
+    const IndexRig rig;
+    rig.write("Standard\r\nrubrica.rub\r\n");
+    const auto added = rig.index.append({u"Soci"_s, rig.folder.filePath(u"so\nci.rub"_s)});
+    QVERIFY(!added);
+    QCOMPARE(added.error().reason, u"its name has a line end"_s);
+    QCOMPARE(rig.content(), "Standard\r\nrubrica.rub\r\n"_ba);
+    QVERIFY(!QFile::exists(rig.folder.filePath(u"so\nci.rub"_s)));
+}
+
 void TestBookIndex::savingReplacesTheList()
 {
     const IndexRig rig;

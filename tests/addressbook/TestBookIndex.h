@@ -16,6 +16,8 @@ private Q_SLOTS:
     void aMissingIndexIsMadeWithAStandardBook();
     void aStandardBookThatIsThereStaysWhatItIs();
     void anIndexThatCannotBeReadStays();
+    void anIndexThatOnlyBeginsAsUtf8Stays();
+    void aFileWhoseNameHasALineEndIsNoBook();
     void savingReplacesTheList();
     void anotherBookLeavesTheBytesBeforeIt();
     void anotherBookAfterAnUnfinishedLine();

@@ -263,8 +263,8 @@ void TestContactImport::addressThatNoBookKeepsIsLeftOut_data()
     QTest::newRow("none") << u""_s;
     QTest::newRow("no address") << u"ada"_s;
     QTest::newRow("two") << u"a@b.it,c@d.it"_s;
-    QTest::newRow("cut by a book") << u"a#b@b.it"_s;
-    QTest::newRow("cut by a book at the end") << u"a@b.it#1"_s;
+    QTest::newRow("a name beside it") << u"Ada<a@b.it>"_s;
+    QTest::newRow("control character") << u"a\u0001@b.it"_s;
     QTest::newRow("parted by a book") << u"a@b.it;c"_s;
     QTest::newRow("blank") << u"a b@c.it"_s;
     QTest::newRow("tab") << u"a\tb@c.it"_s;
@@ -281,6 +281,19 @@ void TestContactImport::addressThatNoBookKeepsIsLeftOut()
     QVERIFY(cards.contacts.empty());
     QCOMPARE(lines.leftOut, QStringList{u"Ada - "_s + address});
     QCOMPARE(cards.leftOut, QStringList{u"Ada - "_s + address});
+}
+
+void TestContactImport::commentsOfBooksAreDropped()
+{
+    const ImportedContacts lines = import("Ada;a@b.it#moved;Ada;\r\nBen;b#c@b.it\r\n");
+    QCOMPARE(lines.contacts.size(), std::size_t{1});
+    QCOMPARE(lines.contacts.front()[ContactColumn::Email], u"a@b.it"_s);
+    QCOMPARE(lines.leftOut, QStringList{u"Ben - b"_s});
+    // A card has no comments, and a book would cut the address.
+    const ImportedContacts cards =
+        import("BEGIN:VCARD\r\nFN:Ada\r\nEMAIL:a@b.it#1\r\nEND:VCARD\r\n");
+    QVERIFY(cards.contacts.empty());
+    QCOMPARE(cards.leftOut, QStringList{u"Ada - a@b.it#1"_s});
 }
 
 void TestContactImport::linesWithoutAddressAreLeftOut()
@@ -360,7 +373,7 @@ void TestContactImport::oddFilesAreRead_data()
     QTest::newRow("a long line") << much + ";a@b.it\r\n" << 1 << 0;
     QTest::newRow("a line of quotes") << quotes + "\";a@b.it\r\n" << 1 << 0;
     QTest::newRow("lines of separators") << often(";;;;;;;;;;;;;;\r\n") << 0 << 0;
-    QTest::newRow("quotes that open") << often("\"A;\"a\"\"@b.it\r\n") << 10'000 << 0;
+    QTest::newRow("quotes that open") << often("\"A;a@b.it;\"B\r\n") << 10'000 << 0;
     QTest::newRow("NUL") << "A\0B;a@b.it\r\n\0\r\n"_ba << 1 << 1;
     QTest::newRow("NULs in a card") << "BEGIN:VCARD\nFN:A\0B\n\0\nEMAIL:a@b.it\n\0"_ba << 1 << 0;
     QTest::newRow("a long value") << "BEGIN:VCARD\nEMAIL:a@b.it\nNOTE:" + much << 1 << 0;

@@ -29,6 +29,7 @@ private Q_SLOTS:
 
     void addressThatNoBookKeepsIsLeftOut_data();
     void addressThatNoBookKeepsIsLeftOut();
+    void commentsOfBooksAreDropped();
     void linesWithoutAddressAreLeftOut();
     void cardsWithoutAddressAreLeftOut();
     void eachAddressOfACardIsAContact();

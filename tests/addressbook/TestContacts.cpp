@@ -27,7 +27,7 @@ void TestContacts::aNewContactStandsAtTheEndWithItsDisplayName()
 {
     BooksRig rig(BooksRig::line("Ada", "ada@mill.example"));
     loaded(rig);
-    const QSignalSpy added(&rig.books, &AddressBooks::contactAdded);
+    const QSignalSpy added(&rig.books, &AddressBooks::contactKept);
     Contact contact = BooksRig::contact(u"Ben"_s, u"ben@mill.example"_s);
     contact[ContactColumn::Company] = u"Mill"_s;
     contact[ContactColumn::Notes] = u"one\r\ntwo"_s;
@@ -127,8 +127,8 @@ void TestContacts::aFileThatCannotBeImportedIsSaid()
     const QList<Notice> notices = rig.prompts.takeNotices();
     QCOMPARE(notices.size(), 1);
     QCOMPARE(notices.front().icon, Icon::Critical);
-    QCOMPARE(notices.front().text,
-             u"The contacts cannot be read: "_s + rig.folder.path() + u": it is a folder"_s);
+    QCOMPARE(notices.front().text, u"The contacts cannot be read."_s);
+    QCOMPARE(notices.front().detail, rig.folder.path() + u": it is a folder"_s);
 }
 
 void TestContacts::noFileImportsNothing()

@@ -171,6 +171,19 @@ void TestOpenBook::aBookInUtf8IsRead()
     QCOMPARE(rig.names(), QStringList{u"Zoë 東京"_s});
 }
 
+void TestOpenBook::aBookThatOnlyBeginsAsUtf8IsNeverWritten()
+{
+    BookRig rig;
+    const QByteArray content = "\xEF\xBB\xBFZo\xEB;zoe@mill.example\r\n";
+    writeFile(rig.path, content);
+    const auto read = rig.book.LoadBookFile(rig.path);
+    QVERIFY(!read);
+    QCOMPARE(read.error().reason, u"it begins as UTF-8 and goes on otherwise"_s);
+    QVERIFY(!rig.book.isWhole());
+    rig.save();
+    QCOMPARE(rig.content(), content);
+}
+
 void TestOpenBook::theSecondSaveWritesTheSameBytes()
 {
     BookRig rig("A#b;a#b@c.example#x;A;b\\n\\rc;5;6;7;8;9;10;11;12;13;14\nB;b@c.example\n"_ba);

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void contactsAreAddedReplacedAndRemoved();
     void aBookIsKeptWholeInUtf8WhenANameNeedsIt();
     void aBookInUtf8IsRead();
+    void aBookThatOnlyBeginsAsUtf8IsNeverWritten();
     void theSecondSaveWritesTheSameBytes();
     void aBookChangedByAnotherProgramIsNotOverwritten();
     void anUnchangedBookLeavesTheChangesOfAnotherProgram();

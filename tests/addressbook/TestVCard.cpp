@@ -339,7 +339,9 @@ void TestVCard::whatHasNoColumnIsCounted_data()
     QTest::newRow("empty") << "TITLE:\r\nURL: \r\nGEO:;\r\nCATEGORIES:,"_ba << 0;
     QTest::newRow("of the file") << "PRODID:x\r\nREV:1\r\nUID:2\r\nVERSION:4.0"_ba << 0;
     QTest::newRow("without a name") << ":1"_ba << 1;
-    QTest::newRow("no property") << "nothing\r\n\r\nTITLE;X=1"_ba << 0;
+    QTest::newRow("no property") << "nothing\r\n\r\nTITLE;X=1"_ba << 1;
+    QTest::newRow("note without folds") << "NOTE:one\r\ntwo\r\nthree\r\nURL:a"_ba << 2;
+    QTest::newRow("pager") << "TEL;TYPE=pager:1\r\nTEL:2"_ba << 1;
 }
 
 void TestVCard::whatHasNoColumnIsCounted()

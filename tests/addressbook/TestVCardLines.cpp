@@ -126,11 +126,21 @@ void TestVCardLines::partsOfALine()
 
 void TestVCardLines::lineWithoutColonIsNothing()
 {
-    for (const char *line : {"", "TEL", "TEL;TYPE=FAX", "TEL;X=\":1"}) {
+    for (const char *line : {"", "TEL", "TEL;TYPE=FAX"}) {
         const VCardProperty property(line);
         QCOMPARE(property.name(), ""_ba);
         QVERIFY(!property.hasContent());
+        QCOMPARE(property.isBroken(), *line != '\0');
     }
+}
+
+void TestVCardLines::quoteThatIsNeverClosedIsACharacter()
+{
+    const VCardProperty property("TEL;X-L=5\"x;TYPE=FAX:1");
+    QCOMPARE(property.name(), "TEL"_ba);
+    QVERIFY(property.has("TYPE", "FAX"));
+    QCOMPARE(property.text(CodePage("windows-1252")), u"1"_s);
+    QVERIFY(!property.isBroken());
 }
 
 void TestVCardLines::componentsAreParted()

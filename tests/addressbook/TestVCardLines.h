@@ -17,6 +17,7 @@ private Q_SLOTS:
     void escapesAreUndone();
     void partsOfALine();
     void lineWithoutColonIsNothing();
+    void quoteThatIsNeverClosedIsACharacter();
     void componentsAreParted();
     void lowestNumberIsPreferred();
 };

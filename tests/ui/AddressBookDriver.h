@@ -118,11 +118,17 @@ public:
         qFatal("there is no such entry");
     }
 
-    /// Types into the editor and confirms.
+    /// Types into a box of the editor, in the place of what stands there.
+    void type(const char *box, const QString &text) const
+    {
+        auto &edit = part<QLineEdit>(editor(), box);
+        edit.selectAll();
+        edit.insert(text);
+    }
     void enter(const QString &name, const QString &address) const
     {
-        part<QLineEdit>(editor(), "txtName").setText(name);
-        part<QLineEdit>(editor(), "txtEmail").setText(address);
+        type("txtName", name);
+        type("txtEmail", address);
         press(editor(), "cmdOK");
     }
 };

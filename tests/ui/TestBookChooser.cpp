@@ -153,6 +153,17 @@ void TestBookChooser::cancellingChangesNothing()
     QVERIFY(!rig.core->w.form.projectModified());
 }
 
+void TestBookChooser::aListWithNothingSelectedChoosesNothing()
+{
+    ChooserRig rig;
+    rig.open();
+    rig.list().clearSelection();
+    QVERIFY(!rig.chooser()->selectedFile());
+    rig.press(rig.chooser(), "cmdOK");
+    QVERIFY(!rig.chooser());
+    QVERIFY(!rig.core->w.form.projectModified());
+}
+
 void TestBookChooser::anEmptyListChoosesNothing()
 {
     ChooserRig rig;

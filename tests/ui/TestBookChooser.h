@@ -17,6 +17,7 @@ private Q_SLOTS:
     void enterConfirms();
     void cancellingChangesNothing_data();
     void cancellingChangesNothing();
+    void aListWithNothingSelectedChoosesNothing();
     void anEmptyListChoosesNothing();
     void anUnreadableListSaysSo();
     void anEmptyBookEmptiesTheRecipients();

@@ -3,6 +3,8 @@
 #include "AddressBookDriver.h"
 #include "Languages.h"
 
+#include <QClipboard>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -133,7 +135,7 @@ void TestContactEditor::notesOfSeveralLinesAreKept()
 {
     const EditorRig rig;
     rig.openNew();
-    rig.part<QPlainTextEdit>(rig.editor(), "txtNotes").setPlainText(u"one\ntwo\n"_s);
+    rig.part<QPlainTextEdit>(rig.editor(), "txtNotes").insertPlainText(u"one\ntwo\n"_s);
     rig.enter(u"Ada"_s, u"ada@mill.example"_s);
     rig.press(rig.book(), "cmdClose");
     QCOMPARE(rig.content("rubrica.rub"),
@@ -145,6 +147,52 @@ void TestContactEditor::notesThatNobodyTouchedStayAsTheyAre()
     AddressBookRig rig;
     const QByteArray line = "Ada;ada@mill.example;Ada;;;;;;;;;;a\xA0"
                             "b;c\\n\\r \\n\\r;\r\n";
+    rig.writeIndex({"Standard"});
+    rig.write("standard.rub", line);
+    rig.openBook();
+    rig.clickContact(0);
+    rig.press(rig.book(), "cmdEdit");
+    rig.press(rig.editor(), "cmdOK");
+    rig.press(rig.book(), "cmdClose");
+    QCOMPARE(rig.content("standard.rub"), line);
+}
+
+void TestContactEditor::notesKeepTheirBlanksWhenMoreIsWritten()
+{
+    AddressBookRig rig;
+    rig.writeIndex({"Standard"});
+    rig.write("standard.rub", "Ada;ada@mill.example;Ada;;;;;;;;;;a\xA0"
+                              "b\\n\\rc;\r\n");
+    rig.openBook();
+    rig.clickContact(0);
+    rig.press(rig.book(), "cmdEdit");
+    rig.part<QPlainTextEdit>(rig.editor(), "txtNotes").insertPlainText(u"x"_s);
+    rig.press(rig.editor(), "cmdOK");
+    rig.press(rig.book(), "cmdClose");
+    QCOMPARE(rig.content("standard.rub"), "Ada;ada@mill.example;Ada;;;;;;;;;;xa\xA0"
+                                          "b\\n\\rc;\r\n"_ba);
+}
+
+void TestContactEditor::lineEndsThatWerePastedAreDropped()
+{
+    const EditorRig rig;
+    rig.openNew();
+    const auto paste = [&rig](const char *box, const QString &text) {
+        QGuiApplication::clipboard()->setText(text);
+        rig.part<QLineEdit>(rig.editor(), box).paste();
+    };
+    paste("txtName", u"Fay\nMill"_s);
+    paste("txtEmail", u"fay@mill.example\r\n"_s);
+    rig.press(rig.editor(), "cmdOK");
+    rig.press(rig.book(), "cmdClose");
+    QCOMPARE(rig.content("rubrica.rub"), "Fay Mill;fay@mill.example;Fay Mill;;;;;;;;;;;\r\n"_ba);
+}
+
+void TestContactEditor::fieldsLongerThanABoxShowsAreKept()
+{
+    AddressBookRig rig;
+    const QByteArray line =
+        "Ada;ada@mill.example;Ada;;" + QByteArray(100000, 'x') + ";a\\n\\rb;;;;;;;;\r\n";
     rig.writeIndex({"Standard"});
     rig.write("standard.rub", line);
     rig.openBook();
@@ -185,8 +233,8 @@ void TestContactEditor::escapeAndTheTitleBarCancel()
     QFETCH(const bool, byKey);
     const EditorRig rig;
     rig.openNew();
-    rig.part<QLineEdit>(rig.editor(), "txtName").setText(u"Ada"_s);
-    rig.part<QLineEdit>(rig.editor(), "txtEmail").setText(u"ada@mill.example"_s);
+    rig.type("txtName", u"Ada"_s);
+    rig.type("txtEmail", u"ada@mill.example"_s);
     if (byKey)
         QTest::keyClick(rig.editor(), Qt::Key_Escape);
     else
@@ -199,9 +247,9 @@ void TestContactEditor::enterConfirms()
 {
     const EditorRig rig;
     rig.openNew();
-    rig.part<QLineEdit>(rig.editor(), "txtName").setText(u"Ada"_s);
+    rig.type("txtName", u"Ada"_s);
     auto &address = rig.part<QLineEdit>(rig.editor(), "txtEmail");
-    address.setText(u"ada@mill.example"_s);
+    rig.type("txtEmail", u"ada@mill.example"_s);
     address.setFocus();
     QTest::keyClick(&address, Qt::Key_Return);
     QVERIFY(!rig.editor());

@@ -15,6 +15,9 @@ private Q_SLOTS:
     void everyFieldComesBack();
     void notesOfSeveralLinesAreKept();
     void notesThatNobodyTouchedStayAsTheyAre();
+    void notesKeepTheirBlanksWhenMoreIsWritten();
+    void lineEndsThatWerePastedAreDropped();
+    void fieldsLongerThanABoxShowsAreKept();
     void aRefusedContactStaysOpen();
     void escapeAndTheTitleBarCancel_data();
     void escapeAndTheTitleBarCancel();
