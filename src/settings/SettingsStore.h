@@ -64,6 +64,7 @@ public:
     virtual std::int32_t closeKey(Key key) = 0;
     /// Removes a key with its values. A key that has keys below it is AccessDenied.
     virtual std::int32_t deleteKey(std::uint32_t root, const std::string &path) = 0;
-    /// Blocks until a value of this key is set or deleted, by whomever.
+    /// Blocks until a value of this key is set or deleted, by whomever. A registry may take a value
+    /// that is set to what it was for no change.
     virtual std::int32_t waitForChange(Key key) = 0;
 };

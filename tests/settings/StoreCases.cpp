@@ -139,15 +139,17 @@ void everyByteRoundTrips(SettingsStore &store)
 void theStoredTextEndsInOneNul(SettingsStore &store)
 {
     TestKey reg(store);
-    for (const auto &text : {"hello"s, "hello\0"s}) {
+    for (const auto &text : {""s, "hello"s, "hello\0"s}) {
+        const std::string read = text.substr(0, text.find('\0'));
+        const std::string stored = read + '\0';
         reg.WriteStr("Text", text);
         std::array<char, 16> buffer{};
         auto kind = ValueKind::None;
         std::uint32_t size = 0;
         expect("code", store.queryValue(reg.hKey, "Text", kind, buffer, size), StoreCode::Success);
-        expect("size", size, 6U);
-        expect("bytes", std::string(buffer.data(), size), "hello\0"s);
-        expect("what is read", readText(store, "Text"), "hello"s);
+        expect("size", size, static_cast<std::uint32_t>(stored.size()));
+        expect("bytes", std::string(buffer.data(), size), stored);
+        expect("what is read", readText(store, "Text"), read);
     }
 }
 
@@ -443,11 +445,35 @@ void changesOfOtherKeysDoNotEndTheWait(SettingsStore &store)
     expectTrue("the wait ended at a change of another key", !early);
 }
 
+void closingTheKeyEndsTheWait(SettingsStore &store)
+{
+    // Now before, now after the wait has begun.
+    for (int yields = 0; yields < 100; ++yields) {
+        SettingsStore::Key key = 0;
+        expect("createKey", store.createKey(CurrentUserRoot, TestFolder, key), StoreCode::Success);
+        std::int32_t code = -2;
+        std::thread waiter([&] { code = store.waitForChange(key); });
+        for (int i = 0; i < yields; ++i)
+            std::this_thread::yield();
+        const std::int32_t codeOfClose = store.closeKey(key);
+        waiter.join();
+        expect("closeKey", codeOfClose, StoreCode::Success);
+        expect("status of the wait", code, StoreCode::InvalidHandle);
+    }
+}
+
 void remove(SettingsStore &store, const std::string &path)
 {
     const std::int32_t code = store.deleteKey(CurrentUserRoot, path);
     expectTrue("a key of the test could not be removed",
                code == StoreCode::Success || code == StoreCode::NotFound);
+}
+
+/// What a case has left, or one that failed.
+void removeKeys(SettingsStore &store)
+{
+    for (const char *below : {"\\a\\b", "\\a", "\\Child", "\\Other", " 2", ""})
+        remove(store, TestFolder + std::string(below));
 }
 
 } // namespace
@@ -489,6 +515,7 @@ const std::vector<StoreCase> &storeCases()
         CASE(settingAValueToWhatItWasEndsTheWait),
         CASE(deletingAValueEndsTheWait),
         CASE(changesOfOtherKeysDoNotEndTheWait),
+        CASE(closingTheKeyEndsTheWait),
     };
 #undef CASE
     return cases;
@@ -496,7 +523,7 @@ const std::vector<StoreCase> &storeCases()
 
 void runStoreCase(const StoreCase &storeCase, SettingsStore &store)
 {
+    removeKeys(store);
     storeCase.run(store);
-    for (const char *below : {"\\a\\b", "\\a", "\\Child", "\\Other", ""})
-        remove(store, TestFolder + std::string(below));
+    removeKeys(store);
 }

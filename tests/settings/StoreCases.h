@@ -18,5 +18,5 @@ inline constexpr char TestFolder[] = "Software\\Calvessa\\Sorvanta Test";
 
 [[nodiscard]] const std::vector<StoreCase> &storeCases();
 
-/// Runs one case and removes what it left.
+/// Runs one case on a store without the test's keys, and removes what it left.
 void runStoreCase(const StoreCase &storeCase, SettingsStore &store);

@@ -381,18 +381,6 @@ void TestRegFileStore::changeWithAnEditorEndsTheWait()
     QCOMPARE(waiting.exitCode(), 0);
 }
 
-void TestRegFileStore::closingTheKeyEndsTheWait()
-{
-    RegFileStore store(m_file);
-    SettingsStore::Key key = 0;
-    QCOMPARE(store.createKey(CurrentUserRoot, Settings::Folder, key), StoreCode::Success);
-    std::int32_t code = -2;
-    std::thread waiter([&] { code = store.waitForChange(key); });
-    QCOMPARE(store.closeKey(key), StoreCode::Success);
-    waiter.join();
-    QCOMPARE(code, StoreCode::InvalidHandle);
-}
-
 void TestRegFileStore::removingTheKeyEndsTheWait()
 {
     RegFileStore store(m_file);

@@ -40,7 +40,6 @@ private Q_SLOTS:
     void readerNeverSeesHalfAFile();
     void changeByAnotherProgramEndsTheWait();
     void changeWithAnEditorEndsTheWait();
-    void closingTheKeyEndsTheWait();
     void removingTheKeyEndsTheWait();
 
 private:
