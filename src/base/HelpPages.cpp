@@ -1,14 +1,15 @@
 #include "base/HelpPages.h"
 
-#include <QDir>
+#include "base/ProgramFolder.h"
+
 #include <QFileInfo>
 
 QString folderOfHelp(const QString &programFolder, const QString &executableFolder)
 {
     if (QFileInfo::exists(programFolder + QLatin1String("/Help")))
         return programFolder;
-    const QString shared = QDir::cleanPath(executableFolder + QLatin1String("/../share/sorvanta"));
-    return QFileInfo::exists(shared + QLatin1String("/Help")) ? shared : programFolder;
+    const QString shared = sharedFolderOf(executableFolder);
+    return shared.isEmpty() ? programFolder : shared;
 }
 
 QString helpAddress(QString folder, const QString &page)

@@ -12,10 +12,17 @@ QString programFolder()
 
 QString programFolderOf(const QString &executableFolder)
 {
-    if (QFileInfo(executableFolder).isWritable())
+    // The administrator may write where programs are installed, and is not to do so unawares.
+    if (sharedFolderOf(executableFolder).isEmpty() && QFileInfo(executableFolder).isWritable())
         return executableFolder;
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
                          QStringLiteral("/Sorvanta");
     QDir().mkpath(data);
     return data;
+}
+
+QString sharedFolderOf(const QString &executableFolder)
+{
+    const QString shared = QDir::cleanPath(executableFolder + QStringLiteral("/../share/sorvanta"));
+    return QFileInfo(shared).isDir() ? shared : QString();
 }

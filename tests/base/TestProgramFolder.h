@@ -10,4 +10,5 @@ class TestProgramFolder : public QObject
 private Q_SLOTS:
     void besideTheProgramWhenTheUserMayWriteThere();
     void inTheUsersDataFolderElse();
+    void inTheUsersDataFolderWhenTheProgramIsInstalled();
 };

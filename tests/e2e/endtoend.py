@@ -15,7 +15,6 @@ import unittest
 from pathlib import Path
 
 SOURCES = Path(os.environ["SORVANTA_SOURCES"])
-CLI = Path(os.environ["SORVANTA_CLI"])
 WORK = Path(os.environ["SORVANTA_WORK"])
 
 sys.path.insert(0, str(SOURCES / "scripts"))
@@ -31,10 +30,15 @@ class Program:
 
     def __init__(self, folder):
         self.folder = Path(folder)
-        self.path = copied(CLI, self.folder)
+        self.path = copied(Path(os.environ["SORVANTA_CLI"]), self.folder)
         home = self.folder / "home"
         home.mkdir()
-        self.environment = {
+        self.environment = self.environment_in(home)
+
+    @staticmethod
+    def environment_in(home):
+        """What a program is told in a home of its own, and nothing of this machine's settings."""
+        return {
             "PATH": os.environ["PATH"],
             "HOME": str(home),
             "XDG_CONFIG_HOME": str(home / "config"),
@@ -103,7 +107,11 @@ class EndToEnd(unittest.TestCase):
         folder = tempfile.TemporaryDirectory(dir=WORK)
         self.addCleanup(folder.cleanup)
         self.folder = Path(folder.name)
-        self.program = Program(self.folder)
+        self.program = self.installed()
+
+    def installed(self):
+        """The program of the test."""
+        return Program(self.folder)
 
     def file(self, name, content):
         """A file of the test."""
