@@ -92,7 +92,12 @@ void frmRubrica::bindBooks()
         m_opens = true;
         const int place = m_ui->Rubriche->indexOfTopLevelItem(book);
         QMetaObject::invokeMethod(
-            &m_books, [this, place] { m_books.Rubriche_Click(place); }, Qt::QueuedConnection);
+            &m_books,
+            [this, place] {
+                m_opens = false;
+                m_books.Rubriche_Click(place);
+            },
+            Qt::QueuedConnection);
     });
     connect(&list, &QTreeWidget::itemPressed, this,
             [this] { m_openedByPress = std::exchange(m_opens, false); });

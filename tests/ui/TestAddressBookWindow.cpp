@@ -114,6 +114,10 @@ void TestAddressBookWindow::keysOpenABook()
     rig.bookList().setFocus();
     QTest::keyClick(&rig.bookList(), Qt::Key_Down);
     QTRY_COMPARE(rig.shown(), QStringList{u"Zoe"_s});
+    // A click on it then is one on the open book.
+    rig.write("soci.rub", "Gus;gus@mill.example\r\n");
+    rig.clickBook(1);
+    QCOMPARE(rig.shown(), QStringList{u"Gus"_s});
 }
 
 void TestAddressBookWindow::aClickOnTheOpenBookReadsItAgain()
