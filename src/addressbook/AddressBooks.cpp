@@ -66,9 +66,9 @@ void AddressBooks::endSession()
 
 bool AddressBooks::LoadRubricheList()
 {
-    auto books = m_index.LoadRubricheList();
+    const auto books = m_index.LoadRubricheList();
     m_indexIsWhole = books.has_value();
-    m_books = m_indexIsWhole ? *std::move(books) : std::vector<AddressBook>();
+    m_books = books.value_or(std::vector<AddressBook>());
     m_selected = -1;
     change([this] { m_book.close(); });
     if (!m_indexIsWhole)
