@@ -75,7 +75,7 @@ void TestShownContacts::sortingIgnoresCaseAndKeepsEqualOnes()
                                          {u"A"_s, u""_s, u""_s, u"2"_s},
                                          {u"a"_s, u""_s, u""_s, u"3"_s},
                                          {u"B"_s, u""_s, u""_s, u"4"_s}});
-    ShownContacts shown(QLocale(QLocale::English));
+    ShownContacts shown{QLocale(QLocale::English)};
     shown.setContacts(table);
     shown.columnClick(table, ContactColumn::DisplayName);
     QCOMPARE(shown.rows(), (Rows{2, 3, 1, 4}));
