@@ -1,6 +1,7 @@
 #include "project/ProjectData.h"
 
 #include "base/InputFields.h"
+#include "base/Lines.h"
 #include "base/Numbers.h"
 
 #include <optional>
@@ -69,7 +70,10 @@ std::optional<Recipient> readRecipient(InputFields &fields)
 QString encodeProject(const ProjectData &project)
 {
     QString text;
-    const auto line = [&text](const auto &content) { text.append(content).append(LineEnd); };
+    // A quoted field may have been read over several lines; written so it would tear the file.
+    const auto line = [&text](const QString &content) {
+        text.append(oneLine(content)).append(LineEnd);
+    };
     line(FormatTag);
     line(project.paused ? QLatin1String("pausa") : QLatin1String("stop"));
     line(fileNumber(project.nextRecipientIndex));

@@ -262,3 +262,14 @@ void TestProjectData::anExampleCutAtEveryCharacter()
         QVERIFY2(read->paused == between, where.constData());
     }
 }
+
+// A quoted field may be read over lines, and nothing is quoted when it is written.
+void TestProjectData::aLineEndInAFieldDoesNotTearTheFile()
+{
+    QString text = ExampleText;
+    text.replace(QStringLiteral("News of May\r\n"), QStringLiteral("\"News\r\nof\nMay\"\r\n"));
+    const auto read = decodeProject(text);
+    QVERIFY(read.has_value());
+    QCOMPARE(read->subject, QStringLiteral("News\r\nof\nMay"));
+    QCOMPARE(encodeProject(*read), ExampleText);
+}

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void numbersAreLenient();
     void anEmptyChoiceOfSeveralRecipientsIsYes();
     void aQuotedFieldRunsToItsQuote();
+    void aLineEndInAFieldDoesNotTearTheFile();
     void aQuotedFieldMayRunOverLines();
     void anyLineEndIsRead_data();
     void anyLineEndIsRead();
