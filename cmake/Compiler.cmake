@@ -25,6 +25,10 @@ if(SORVANTA_SANITIZE)
   target_link_options(sorvanta_compiler INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(SORVANTA_FUZZ)
+  target_compile_options(sorvanta_compiler INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 target_include_directories(sorvanta_compiler INTERFACE ${CMAKE_SOURCE_DIR}/src)
 
 # What only the sources that see Qt get: no silent conversions, no keywords that clash with GLib's.
