@@ -194,10 +194,6 @@
         <translation>Principale</translation>
     </message>
     <message>
-        <source>it begins as UTF-8 and goes on otherwise</source>
-        <translation>comincia come UTF-8 e prosegue diversamente</translation>
-    </message>
-    <message>
         <source>its name has a line end</source>
         <translation>il suo nome contiene un ritorno a capo</translation>
     </message>
@@ -357,6 +353,10 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
         <source>it is not a regular file</source>
         <translation>non è un file normale</translation>
     </message>
+    <message>
+        <source>it begins as UTF-8 and goes on otherwise</source>
+        <translation>comincia come UTF-8 e prosegue diversamente</translation>
+    </message>
 </context>
 <context>
     <name>HtmlView</name>
@@ -487,10 +487,6 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
     <message>
         <source>line %1 has no &quot;;&quot;</source>
         <translation>la riga %1 non contiene &quot;;&quot;</translation>
-    </message>
-    <message>
-        <source>it begins as UTF-8 and goes on otherwise</source>
-        <translation>comincia come UTF-8 e prosegue diversamente</translation>
     </message>
 </context>
 <context>

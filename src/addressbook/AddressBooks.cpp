@@ -90,8 +90,7 @@ bool AddressBooks::leave()
         say(tr("The contacts could not be saved: %1").arg(beside.error().toText()));
     } else if (!beside->isEmpty()) {
         say(tr("This book was changed by another program meanwhile, or cannot be read any more. "
-               "Your "
-               "contacts were saved as %1.")
+               "Your contacts were saved as %1.")
                 .arg(*beside));
     }
     return !m_isUnsaved;

@@ -9,8 +9,8 @@
 #include <functional>
 
 /// What the address book window shows and does: the list of books, one of which is open, and the
-/// contacts of that one. Changes of contacts reach the file when the book is left. What could not
-/// be read or saved is said in a line of the window, never in a box.
+/// contacts of that one. Changes of contacts reach the file when the book is left. A book that
+/// could not be read or saved is told of in a line of the window, never in a box.
 class AddressBooks : public QObject
 {
     Q_OBJECT

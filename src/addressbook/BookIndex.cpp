@@ -20,15 +20,7 @@ tl::expected<std::vector<AddressBook>, FileError> BookIndex::LoadRubricheList() 
     const auto read = [this](const QByteArray &content) {
         return readIndexText(m_codePage.decode(content));
     };
-    return content().map(read);
-}
-
-tl::expected<QByteArray, FileError> BookIndex::content() const
-{
-    auto read = readWholeFile(m_path);
-    if (read && isBrokenUtf8(*read))
-        return tl::unexpected(FileError{m_path, tr("it begins as UTF-8 and goes on otherwise")});
-    return read;
+    return readTextFile(m_path).map(read);
 }
 
 QString BookIndex::troubleOf(const FileError &error)
@@ -62,7 +54,7 @@ tl::expected<void, FileError> BookIndex::append(const AddressBook &book) const
 {
     if (oneLine(book.file) != book.file)
         return tl::unexpected(FileError{book.file, tr("its name has a line end")});
-    const auto old = content();
+    const auto old = readTextFile(m_path);
     if (!old)
         return tl::unexpected(old.error());
     if (const auto made = makeFileOf(book); !made)

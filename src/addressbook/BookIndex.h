@@ -31,7 +31,6 @@ public:
     [[nodiscard]] tl::expected<void, FileError> append(const AddressBook &book) const;
 
 private:
-    [[nodiscard]] tl::expected<QByteArray, FileError> content() const;
     [[nodiscard]] tl::expected<void, FileError> makeFirst() const;
     [[nodiscard]] tl::expected<void, FileError> makeFileOf(const AddressBook &book) const;
 

@@ -15,8 +15,7 @@ tl::expected<std::optional<QByteArray>, FileError> contentOf(const QString &path
 {
     if (!QFileInfo::exists(systemPath(path)))
         return std::nullopt;
-    return readWholeFile(path).map(
-        [](const QByteArray &content) { return std::optional(content); });
+    return readTextFile(path).map([](const QByteArray &content) { return std::optional(content); });
 }
 
 QString freePathBeside(const QString &path)
@@ -52,8 +51,6 @@ tl::expected<void, FileError> OpenBook::LoadBookFile(const QString &currentBookF
     if (!content)
         return tl::unexpected(content.error());
     m_onDisk = *std::move(content);
-    if (m_onDisk && isBrokenUtf8(*m_onDisk))
-        return tl::unexpected(FileError{m_path, tr("it begins as UTF-8 and goes on otherwise")});
     BookText book = readBookText(m_codePage.decode(m_onDisk.value_or(QByteArray())));
     m_contactTable = std::move(book.contactTable);
     m_isWhole = book.brokenLine == 0;

@@ -1,5 +1,7 @@
 #include "base/Files.h"
 
+#include "base/CodePage.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -101,6 +103,16 @@ tl::expected<QByteArray, FileError> readWholeFile(const QString &path)
     QByteArray content = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return failed(path, file.errorString());
+    return content;
+}
+
+tl::expected<QByteArray, FileError> readTextFile(const QString &path)
+{
+    auto content = readWholeFile(path);
+    if (content && isBrokenUtf8(*content)) {
+        return failed(path, translated(QT_TRANSLATE_NOOP(
+                                "Files", "it begins as UTF-8 and goes on otherwise")));
+    }
     return content;
 }
 

@@ -27,6 +27,10 @@ struct FileError
 /// could take for ever.
 [[nodiscard]] tl::expected<QByteArray, FileError> readWholeFile(const QString &path);
 
+/// The same for a text that is to be written back: one that says by a byte-order mark that it is
+/// UTF-8, and is not, cannot be read without a loss.
+[[nodiscard]] tl::expected<QByteArray, FileError> readTextFile(const QString &path);
+
 /// Whether readWholeFile would open that file; reads nothing.
 [[nodiscard]] tl::expected<void, FileError> checkReadable(const QString &path);
 

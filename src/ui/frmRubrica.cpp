@@ -276,9 +276,8 @@ void frmRubrica::cmdDelete_Click()
 void frmRubrica::edit(const Contact &contact, int row)
 {
     auto *const editor = new frmContatto(windowTitle(), m_prompts, m_placeFile, this);
-    if (row > 0) {
+    if (row > 0)
         editor->Edit();
-    }
     editor->fill(contact);
     connect(editor, &QDialog::finished, this, [this, editor, row] {
         if (editor->Cancelled)

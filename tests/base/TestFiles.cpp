@@ -192,3 +192,22 @@ void TestFiles::permissionsOfTheFileStay()
     QCOMPARE(::stat(qPrintable(path(u"file"_s)), &entry), 0);
     QCOMPARE(entry.st_mode & 0777U, 0640U);
 }
+
+void TestFiles::aTextThatOnlyBeginsAsUtf8IsNotRead()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.txt"));
+    for (const QByteArray &content : {QByteArray(), QByteArray("Zo\xEB"), QByteArray("Zo\xC3\xAB"),
+                                      QByteArray("\xEF\xBB\xBFZo\xC3\xAB")}) {
+        writeFile(path, content);
+        const auto read = readTextFile(path);
+        QVERIFY(read.has_value());
+        QCOMPARE(*read, content);
+    }
+    writeFile(path, "\xEF\xBB\xBFZo\xEB");
+    const auto broken = readTextFile(path);
+    QVERIFY(!broken);
+    QCOMPARE(broken.error().path, path);
+    QVERIFY(!broken.error().reason.isEmpty());
+    QVERIFY(!readTextFile(folder.path()));
+}

@@ -15,6 +15,7 @@ private Q_SLOTS:
 
     void fileIsReadAsItIs_data();
     void fileIsReadAsItIs();
+    void aTextThatOnlyBeginsAsUtf8IsNotRead();
     void missingFileIsRefused();
     void folderIsRefused();
     void pipeIsRefused();
