@@ -2,6 +2,15 @@
 
 #include <algorithm>
 
+namespace {
+
+bool isLineEnd(QChar c)
+{
+    return c == u'\r' || c == u'\n';
+}
+
+} // namespace
+
 int lineEndLength(QStringView text)
 {
     if (text.startsWith(u"\r\n"))
@@ -13,8 +22,7 @@ std::optional<QStringView> LineReader::next()
 {
     if (m_rest.isEmpty())
         return std::nullopt;
-    const auto end = std::find_if(m_rest.begin(), m_rest.end(),
-                                  [](QChar c) { return c == u'\r' || c == u'\n'; });
+    const auto end = std::find_if(m_rest.begin(), m_rest.end(), isLineEnd);
     const QStringView line = m_rest.first(end - m_rest.begin());
     m_rest = m_rest.sliced(line.size());
     m_rest = m_rest.sliced(lineEndLength(m_rest));
@@ -23,6 +31,9 @@ std::optional<QStringView> LineReader::next()
 
 QString oneLine(QString text)
 {
+    // Nearly every text is one line already; a list as long as it can be asks 160,000 times.
+    if (std::none_of(text.cbegin(), text.cend(), isLineEnd))
+        return text;
     text.replace(QLatin1String("\r\n"), QLatin1String(" "));
     return text.replace(u'\r', u' ').replace(u'\n', u' ');
 }

@@ -178,14 +178,15 @@ tl::expected<void, FileError> RunJournal::openFile()
         m_form.projectPath().isEmpty() ? QString() : realPath(m_form.projectPath());
     record.started = m_clock.milliseconds();
     record.project = m_projectFile.pausedProject();
-    if (auto begun = file->begin(encodeRun(record, m_codePage)); !begun)
+    const bool hasBegun = record.hasBegun();
+    if (auto begun = file->begin(encodeRun(std::move(record), m_codePage)); !begun)
         return begun;
     if (!goesOn) {
         if (m_file)
             m_file->remove();
         m_file = std::move(file);
         // Also when only earlier runs sent anything: what is known of that is in the file.
-        m_hasBegun = record.hasBegun();
+        m_hasBegun = hasBegun;
     }
     return {};
 }

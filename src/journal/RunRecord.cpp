@@ -239,9 +239,9 @@ bool RunRecord::canContinue() const
     return totalsOfChecked(project.recipients).waiting > 0;
 }
 
-QByteArray encodeRun(const RunRecord &record, const CodePage &codePage)
+QByteArray encodeRun(RunRecord record, const CodePage &codePage)
 {
-    ProjectData project = record.project;
+    ProjectData &project = record.project;
     const QByteArray fragile = takeFragile(project);
     QByteArray content = RunLines::run(record.started, record.projectPath) +
                          RunLines::project(codePage.encode(encodeProject(project))) + fragile;

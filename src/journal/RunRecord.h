@@ -29,7 +29,7 @@ struct RunRecord
 };
 
 /// How the file of a run begins: the project, and what is known of every row.
-[[nodiscard]] QByteArray encodeRun(const RunRecord &record, const CodePage &codePage);
+[[nodiscard]] QByteArray encodeRun(RunRecord record, const CodePage &codePage);
 
 /// Reads a run's file. States are written in the words of that language. What stands behind the
 /// last whole line of the file does not count; what is broken inside is passed over, and the rows

@@ -69,7 +69,10 @@ std::optional<Recipient> readRecipient(InputFields &fields)
 
 QString encodeProject(const ProjectData &project)
 {
+    // More than the six lines of most rows need: growing costs as much as the rest.
+    constexpr qsizetype LengthOfARow = 120;
     QString text;
+    text.reserve(static_cast<qsizetype>(project.recipients.size()) * LengthOfARow);
     // A quoted field may have been read over several lines; written so it would tear the file.
     const auto line = [&text](const QString &content) {
         text.append(oneLine(content)).append(LineEnd);
