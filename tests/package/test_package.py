@@ -79,6 +79,10 @@ class TheCommand(WithThePackage):
         self.assertIn("config/Sorvanta/settings.reg", files_below(self.home))
         self.assertEqual(self.root.files(), installed)
 
+    def test_every_help_page_comes_with_it(self):
+        installed = files_below(self.root.shared / "sorvanta" / "Help")
+        self.assertEqual(installed, files_below(SOURCES / "Help"))
+
     def test_the_manual_page_knows_every_option_of_the_help(self):
         page = self.root.shared / "man" / "man1" / "sorvanta-cli.1.gz"
         shown = self.printed("man", "--encoding=UTF-8", "--local-file", page, MANWIDTH="500")
