@@ -1,20 +1,14 @@
 #include "TestModel.h"
 
 #include "RunModel.h"
+#include "support/Seeds.h"
 
 #include <QTest>
 
 void TestModel::randomOrdersMailNobodyTwice_data()
 {
-    QTest::addColumn<quint32>("seed");
-    bool isGiven = false;
-    const quint32 given = qEnvironmentVariable("SORVANTA_SEED").toUInt(&isGiven);
     constexpr int Seeds = 5;
-    std::random_device device;
-    for (int i = 0; i < (isGiven ? 1 : Seeds); ++i) {
-        const quint32 seed = isGiven ? given : device();
-        QTest::addRow("SORVANTA_SEED=%u", seed) << seed;
-    }
+    addSeedRows(Seeds);
 }
 
 void TestModel::randomOrdersMailNobodyTwice()

@@ -2,6 +2,7 @@
 #include "TestInFlight.h"
 #include "TestMessageFiller.h"
 #include "TestMomentTexts.h"
+#include "TestNight.h"
 #include "TestPacing.h"
 #include "TestResults.h"
 #include "TestStart.h"
@@ -11,5 +12,5 @@
 int main(int argc, char **argv)
 {
     return runTests<TestTimeTexts, TestMomentTexts, TestStart, TestDispatch, TestResults,
-                    TestPacing, TestInFlight, TestMessageFiller>(argc, argv);
+                    TestPacing, TestInFlight, TestMessageFiller, TestNight>(argc, argv);
 }
