@@ -48,14 +48,7 @@ void SendingEngine::SMTP_MessageDone(bool Sent)
         m_form.setTag(Control::lblRimanente, secondsText(duration, m_formats.decimalSign()));
     }
     const SettledMessage settlement = mark(message, results);
-    const QString subject = stale ? message.subject : m_form.text(Control::txtOggetto);
-    for (std::size_t place = 0; place < message.rows.size(); ++place) {
-        const MessageInFlight::Row &row = message.rows[place];
-        const bool rowSent = results[place].outcome == Outcome::Sent;
-        m_AppLog.WriteMessage(QLatin1String("Message '") + subject + QLatin1String("' to '") +
-                              row.address + QLatin1String("' (") + row.number +
-                              (rowSent ? QLatin1String(") sent.") : QLatin1String(") not sent.")));
-    }
+    log(message, results);
     if (!stale) {
         const MessageInFlight::Row &last = message.rows.back();
         if (const int position = m_recipients.positionOf(last.id, last.position); position > 0) {
@@ -90,6 +83,22 @@ SettledMessage SendingEngine::mark(const MessageInFlight &message,
     return settlement;
 }
 
+// A line for each row of which it is known; what is in doubt stands in no line of its own.
+void SendingEngine::log(const MessageInFlight &message, const std::vector<RowResult> &results)
+{
+    const QString subject = isStale(message) ? message.subject : m_form.text(Control::txtOggetto);
+    for (std::size_t place = 0; place < message.rows.size(); ++place) {
+        const MessageInFlight::Row &row = message.rows[place];
+        const Outcome outcome = results[place].outcome;
+        if (outcome != Outcome::Sent && outcome != Outcome::Refused)
+            continue;
+        m_AppLog.WriteMessage(
+            QLatin1String("Message '") + subject + QLatin1String("' to '") + row.address +
+            QLatin1String("' (") + row.number +
+            (outcome == Outcome::Sent ? QLatin1String(") sent.") : QLatin1String(") not sent.")));
+    }
+}
+
 SettledMessage SendingEngine::settledInDoubt() const
 {
     SettledMessage settlement;
@@ -116,6 +125,7 @@ SettledMessage SendingEngine::takeBrokenMessage()
             results.push_back({inDoubt ? Outcome::InDoubt : Outcome::NotTaken, reply});
     }
     SettledMessage settlement = mark(message, results);
+    log(message, results);
     settlement.finished = inDoubt;
     return settlement;
 }

@@ -133,6 +133,7 @@ private:
     [[nodiscard]] SettledMessage takeBrokenMessage();
     [[nodiscard]] SettledMessage mark(const MessageInFlight &message,
                                       const std::vector<RowResult> &results);
+    void log(const MessageInFlight &message, const std::vector<RowResult> &results);
     void settle(const SettledMessage &settlement);
 
     // Pacing

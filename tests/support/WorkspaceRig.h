@@ -16,12 +16,15 @@
 
 /// A workspace in a folder of its own, with a client, a clock, timers and prompts that do what the
 /// test says. Only tests that link the project's room include this.
-template <typename PromptsType>
+template <typename PromptsType, typename SmtpType = FakeSmtp>
 class RigWith
 {
 public:
-    explicit RigWith(Language language = Language::English)
-        : store(folder.filePath(QStringLiteral("settings.reg")).toStdString()),
+    /// With a client made of what is given besides.
+    template <typename... ClientArguments>
+    explicit RigWith(Language language = Language::English, ClientArguments &&...ofClient)
+        : smtp(std::forward<ClientArguments>(ofClient)...),
+          store(folder.filePath(QStringLiteral("settings.reg")).toStdString()),
           log(folder.path(), clock, formats, codePage),
           w({language, prompts, log, store, smtp, clock, formats, codePage, Timer, Timer2,
              folder.path(), QStringLiteral("shop-pc")})
@@ -139,7 +142,7 @@ public:
     FakeFormats formats;
     CodePage codePage{"windows-1252"};
     PromptsType prompts;
-    FakeSmtp smtp;
+    SmtpType smtp;
     FakeTimer Timer;
     FakeTimer Timer2;
     RegFileStore store;
