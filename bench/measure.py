@@ -21,7 +21,9 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "scripts"))
 
-from projects import Project, Row  # noqa: E402  the path is set above
+from programs import Screen, Server, Usage  # noqa: E402  the path is set above
+from projects import Project, Row  # noqa: E402
+from table import Table  # noqa: E402
 
 BUILD = Path(sys.argv[1])
 MESSAGES = int(sys.argv[2])
@@ -43,117 +45,6 @@ TEXT = (
     + "This is one line of the personal letter which goes to everybody on the list.\n" * 26
     + "\nYours,\nthe sender\n"
 )
-
-
-class Server:
-    """A program that prints the port it listens on, and ends with the block."""
-
-    def __init__(self, *command):
-        self.command = [str(part) for part in command]
-
-    def __enter__(self):
-        self.process = subprocess.Popen(self.command, stdout=subprocess.PIPE, text=True)
-        self.port = int(self.process.stdout.readline())
-        return self
-
-    def __exit__(self, *_):
-        self.process.terminate()
-        self.process.wait()
-        self.process.stdout.close()
-
-    def next_connection(self):
-        """What the sink says of the next connection that ends with messages."""
-        while True:
-            connection = json.loads(self.process.stdout.readline())
-            if connection["messages"] > 0:
-                return connection
-
-
-class Screen:
-    """An X server without a screen, for the length of the block."""
-
-    def __enter__(self):
-        read, write = os.pipe()
-        self.process = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1366x768x24", "-nolisten", "tcp"],
-            pass_fds=[write],
-            stderr=subprocess.DEVNULL,
-        )
-        os.close(write)
-        with os.fdopen(read) as said:
-            self.display = ":" + said.readline().strip()
-        return self
-
-    def __exit__(self, *_):
-        self.process.terminate()
-        self.process.wait()
-
-    def window(self, program, *arguments):
-        """What bench_window says of a window on this screen, and its memory in bytes."""
-        environment = dict(
-            os.environ, DISPLAY=self.display, QT_QPA_PLATFORM="xcb", XDG_CONFIG_HOME=program.parent
-        )
-        usage = Usage([program, *arguments, time.monotonic_ns()], environment)
-        return {**json.loads(usage.said), "memory": usage.memory}
-
-
-class Usage:
-    """What a program used, from its start to its end, and what it said."""
-
-    def __init__(self, command, environment=None):
-        command = [str(part) for part in command]
-        with subprocess.Popen(command, stdout=subprocess.PIPE, env=environment) as process:
-            self.said = process.stdout.read()
-            _, status, usage = os.wait4(process.pid, 0)
-            process.returncode = os.waitstatus_to_exitcode(status)
-        if process.returncode != 0:
-            raise SystemExit(f"{command} ended with {process.returncode}")
-        self.cpu = usage.ru_utime + usage.ru_stime
-        self.memory = usage.ru_maxrss * 1024
-
-
-class Table:
-    """Rows of a measured thing, its figure, the bound it must meet and the one it should."""
-
-    def __init__(self):
-        self.rows = [("", "Sorvanta", "others, and the ratio to them", "must", "should", "")]
-        self.missed = 0
-
-    def add(self, what, figure, unit, others=None, most=None, least=None, should=None):
-        """One row; a bound is a figure, or the name of one of the others."""
-        shown = [
-            f"{name} {other:,.0f} ({figure / other:.2f})" for name, other in (others or {}).items()
-        ]
-        sign, must = ("at least", least) if most is None else ("at most", most)
-
-        def is_met(bound):
-            value = others[bound] if isinstance(bound, str) else bound
-            return figure <= value if sign == "at most" else figure >= value
-
-        def text_of(bound):
-            return bound if isinstance(bound, str) else "" if bound is None else f"{bound:,.5g}"
-
-        verdict = ""
-        if must is not None:
-            self.missed += not is_met(must)
-            verdict = "MISSED" if not is_met(must) else "met"
-            if should is not None and is_met(should):
-                verdict += ", and what it should be"
-        digits = 0 if figure >= 20 else 2 if figure >= 0.1 else 3
-        bound = f"{sign} {text_of(must)}" if must is not None else ""
-        figure_text = f"{figure:,.{digits}f} {unit}"
-        self.rows.append(
-            (what, figure_text, ", ".join(shown), bound, text_of(should), verdict)
-        )
-
-    def show(self):
-        """Prints the table."""
-        columns = range(len(self.rows[0]))
-        widths = [max(len(row[i]) for row in self.rows) for i in columns]
-        for number, row in enumerate(self.rows):
-            print("  ".join(cell.ljust(width) for cell, width in zip(row, widths)).rstrip())
-            if number == 0:
-                print("-" * (sum(widths) + 2 * len(columns) - 2))
 
 
 class Bench:
