@@ -2,12 +2,13 @@
 #include "TestProjectCommands.h"
 #include "TestProjectData.h"
 #include "TestProjectFile.h"
+#include "TestProjectRules.h"
 #include "TestWindowLifecycle.h"
 #include "TestWindowSettings.h"
 #include "support/RunTests.h"
 
 int main(int argc, char **argv)
 {
-    return runTests<TestProjectData, TestProjectFile, TestProjectCommands, TestWindowSettings,
-                    TestWindowLifecycle, TestEditorCommands>(argc, argv);
+    return runTests<TestProjectData, TestProjectRules, TestProjectFile, TestProjectCommands,
+                    TestWindowSettings, TestWindowLifecycle, TestEditorCommands>(argc, argv);
 }

@@ -4,6 +4,7 @@
 #include "TestRecipientDetails.h"
 #include "TestRecipientList.h"
 #include "TestRecipientsFile.h"
+#include "TestRecipientsRules.h"
 #include "TestStateWords.h"
 #include "TestTotals.h"
 #include "support/RunTests.h"
@@ -11,5 +12,6 @@
 int main(int argc, char **argv)
 {
     return runTests<TestStateWords, TestAttemptText, TestRecipientList, TestRecipientCommands,
-                    TestRecipientsFile, TestQueueId, TestTotals, TestRecipientDetails>(argc, argv);
+                    TestRecipientsFile, TestRecipientsRules, TestQueueId, TestTotals,
+                    TestRecipientDetails>(argc, argv);
 }
