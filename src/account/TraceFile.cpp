@@ -1,6 +1,6 @@
 #include "account/TraceFile.h"
 
-#include "base/Files.h"
+#include "base/AppendedFile.h"
 #include "base/Lines.h"
 
 #include <QFileInfo>
@@ -48,9 +48,8 @@ void TraceFile::line(const ServerAddress &server, Speaker speaker, const QString
     const QString line = m_clock.now().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz ")) +
                          withVisibleControls(server.toText()) + u' ' + markOf(speaker) + u' ' +
                          withVisibleControls(text) + u'\n';
-    const QByteArray bytes = line.toUtf8();
-    if (m_file.write(bytes) != bytes.size())
-        giveUp(m_file.errorString());
+    if (const auto written = appendWhole(m_file, line.toUtf8()); !written)
+        giveUp(written.error());
 }
 
 bool TraceFile::open()

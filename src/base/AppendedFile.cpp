@@ -6,8 +6,27 @@
 
 #include <cerrno>
 
+tl::expected<void, QString> appendWhole(QFile &file, const QByteArray &bytes)
+{
+    qint64 written = 0;
+    // What a disk has room for only in part is refused without a reason; offered the rest, the
+    // system says why.
+    while (written < bytes.size()) {
+        const qint64 part = file.write(bytes.constData() + written, bytes.size() - written);
+        if (part <= 0) {
+            const QString reason = file.errorString();
+            const qint64 end = file.size() - written;
+            file.resize(end);
+            file.seek(end);
+            return tl::unexpected(reason);
+        }
+        written += part;
+    }
+    return {};
+}
+
 AppendedFile::AppendedFile(std::shared_ptr<QFile> file, const QString &path)
-    : m_file(std::move(file)), m_path(path), m_size(m_file->size())
+    : m_file(std::move(file)), m_path(path)
 {}
 
 tl::expected<AppendedFile, FileError> AppendedFile::open(const QString &path)
@@ -21,21 +40,9 @@ tl::expected<AppendedFile, FileError> AppendedFile::open(const QString &path)
 
 tl::expected<void, FileError> AppendedFile::append(const QByteArray &bytes)
 {
-    qint64 written = 0;
-    // What a disk has room for only in part is refused without a reason; offered the rest, the
-    // system says why.
-    while (written < bytes.size()) {
-        const qint64 part = m_file->write(bytes.constData() + written, bytes.size() - written);
-        if (part <= 0) {
-            const FileError error{m_path, m_file->errorString()};
-            m_file->resize(m_size);
-            m_file->seek(m_size);
-            return tl::unexpected(error);
-        }
-        written += part;
-    }
-    m_size += written;
-    return {};
+    return appendWhole(*m_file, bytes).map_error([this](const QString &reason) {
+        return FileError{m_path, reason};
+    });
 }
 
 AppendedFile::DiskJob AppendedFile::diskJob() const

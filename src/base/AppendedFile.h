@@ -7,6 +7,10 @@
 
 class QFile;
 
+/// Appends all of the bytes to a file that is open without a buffer, or nothing; else what the
+/// system says of it.
+[[nodiscard]] tl::expected<void, QString> appendWhole(QFile &file, const QByteArray &bytes);
+
 /// A file that only grows. What append has taken survives the end of the program; what is on the
 /// disk survives a loss of power too, and gets there by a job that any thread can do, since a disk
 /// takes its time.
@@ -29,5 +33,4 @@ private:
 
     std::shared_ptr<QFile> m_file;
     QString m_path;
-    qint64 m_size = 0;
 };

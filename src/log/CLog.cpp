@@ -1,6 +1,6 @@
 #include "log/CLog.h"
 
-#include "base/Files.h"
+#include "base/AppendedFile.h"
 #include "base/modMain.h"
 
 namespace {
@@ -23,12 +23,8 @@ CLog::CLog(const QString &programFolder, const Clock &clock, const RegionalForma
     // program that dies has handed over every line.
     if (!m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
         return;
-    // The session begins ON the last byte of the one before, not behind it: its CR takes the place
-    // of the earlier LF, so that sessions are set apart by CR CR LF. Readers of these files count
-    // on it. In an empty file there is no such byte, and writing begins at the start.
-    if (m_file.size() > 0)
-        m_file.seek(m_file.size() - 1);
-    m_file.write("\r\n" + QByteArray(SeparatorLength, '-') + "\r\n");
+    m_file.seek(m_file.size());
+    m_separator = "\r\n" + QByteArray(SeparatorLength, '-') + "\r\n";
     WriteMessage(QStringLiteral("Program started..."));
 }
 
@@ -56,7 +52,28 @@ void CLog::WriteMessage(const QString &Testo)
         bytes += m_codePage.encode(entry.sliced(start, end - start));
         start = end;
     }
-    m_file.write(bytes);
+    if (m_separator.isEmpty())
+        static_cast<void>(appendWhole(m_file, bytes));
+    else
+        beginSession(bytes);
+}
+
+// The session begins ON the last byte of the one before, not behind it: its CR takes the place of
+// the earlier LF, so that sessions are set apart by CR CR LF. Readers of these files count on it.
+// In an empty file there is no such byte. Where there is one it is overwritten last, when all the
+// rest has found room.
+void CLog::beginSession(const QByteArray &bytes)
+{
+    const qint64 end = m_file.pos();
+    const qsizetype ownByte = end == 0 ? 0 : 1;
+    if (!appendWhole(m_file, m_separator.sliced(ownByte) + bytes))
+        return;
+    if (end > 0) {
+        m_file.seek(end - 1);
+        m_file.write(m_separator.first(ownByte));
+        m_file.seek(m_file.size());
+    }
+    m_separator.clear();
 }
 
 void CLog::GetLog(QString &txt)

@@ -9,7 +9,7 @@
 
 /// The activity log: one file a calendar month, in the program's folder. Its texts are English
 /// whatever the language of the window. Nothing here ever reports a failure: a log that cannot be
-/// opened or written swallows what it is given.
+/// opened swallows what it is given, and a disk without room the lines that find none, whole.
 class CLog
 {
 public:
@@ -30,10 +30,13 @@ public:
     void GetLog(QString &txt);
 
 private:
+    void beginSession(const QByteArray &bytes);
+
     const Clock &m_clock;
     const RegionalFormats &m_formats;
     const CodePage &m_codePage;
     QFile m_file;
     qint64 m_stampedSecond = -1;
     QString m_stamp;
+    QByteArray m_separator; ///< of the session, until its first line has found room
 };

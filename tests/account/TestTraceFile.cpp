@@ -126,18 +126,28 @@ void TestTraceFile::fileThatCannotBeOpenedIsSaidOnce()
     QVERIFY(!trace.wants(u"any"_s));
 }
 
-void TestTraceFile::fullDiskIsSaidOnce()
+void TestTraceFile::fullDiskIsSaidOnceAndLeavesWholeLines()
 {
-    Rig rig;
-    {
-        const FileSizeLimit full(100);
-        for (int i = 0; i < 5; ++i)
-            rig.trace.line(rig.server, Speaker::Client, u"EHLO pc"_s);
-    }
-    QCOMPARE(rig.prompts.takeNotices().size(), 1);
-    QVERIFY(!rig.trace.wants(u"any"_s));
-    rig.trace.line(rig.server, Speaker::Client, u"QUIT"_s);
-    QVERIFY(!readFile(rig.path).contains("QUIT"));
+    const QByteArray before = "of another session\n";
+    const QByteArray line = "2026-11-21 09:00:00.000 smtp.example.org:587 C: EHLO pc\n";
+    forEachFullDisk(before.size() + 2 * line.size(), [&](rlim_t room) {
+        Rig rig;
+        writeFile(rig.path, before);
+        {
+            const FileSizeLimit full(room);
+            for (int i = 0; i < 5; ++i)
+                rig.trace.line(rig.server, Speaker::Client, u"EHLO pc"_s);
+        }
+        const bool oneFits = room >= static_cast<rlim_t>(before.size() + line.size());
+        const QByteArray written = oneFits ? before + line : before;
+        QCOMPARE(readFile(rig.path), written);
+        QCOMPARE(rig.prompts.takeNoticeTexts(),
+                 QStringList(u"The dialogue with the server cannot be written to "_s + rig.path +
+                             u": File too large."_s));
+        QVERIFY(!rig.trace.wants(u"any"_s));
+        rig.trace.line(rig.server, Speaker::Client, u"QUIT"_s);
+        QCOMPARE(readFile(rig.path), written);
+    });
 }
 
 void TestTraceFile::pipeIsNotWaitedFor()

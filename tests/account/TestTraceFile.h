@@ -17,6 +17,6 @@ private Q_SLOTS:
     void everyHostIsWantedWithoutAccounts();
     void nothingIsMadeBeforeTheFirstLine();
     void fileThatCannotBeOpenedIsSaidOnce();
-    void fullDiskIsSaidOnce();
+    void fullDiskIsSaidOnceAndLeavesWholeLines();
     void pipeIsNotWaitedFor();
 };

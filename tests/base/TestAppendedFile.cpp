@@ -37,15 +37,19 @@ void TestAppendedFile::aFileThatIsMissingIsNotMade()
 void TestAppendedFile::aLineThatFindsNoRoomLeavesNothingBehind()
 {
     auto file = AppendedFile::open(m_path);
-    {
-        const FileSizeLimit full(6);
-        const auto appended = file->append("two\n");
+    const QByteArray line = "the second\n";
+    forEachFullDisk(readFile(m_path).size() + line.size(), [&](rlim_t room) {
+        const auto appended = [&] {
+            const FileSizeLimit full(room);
+            return file->append(line);
+        }();
         QVERIFY(!appended);
+        QCOMPARE(appended.error().path, m_path);
         QCOMPARE(appended.error().reason, u"File too large"_s);
         QCOMPARE(readFile(m_path), QByteArray("one\n"));
-    }
-    QVERIFY(file->append("three\n"));
-    QCOMPARE(readFile(m_path), QByteArray("one\nthree\n"));
+    });
+    QVERIFY(file->append(line));
+    QCOMPARE(readFile(m_path), "one\n" + line);
 }
 
 void TestAppendedFile::theDiskJobOutlivesTheFile()

@@ -10,6 +10,8 @@
 
 #include <sys/stat.h>
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -216,17 +218,48 @@ void TestLog::logThatMayNotBeWrittenSwallowsEverything()
     QCOMPARE(readFile(path()), "of someone else\r\n"_ba);
 }
 
-void TestLog::fullDiskIsNotReported()
+void TestLog::lineThatFindsNoRoomLeavesTheLogAsItWas()
 {
     CLog AppLog(m_folder->path(), *m_clock, m_formats, m_codePage);
     const QByteArray before = readFile(path());
-    {
-        const FileSizeLimit limit(static_cast<rlim_t>(before.size()));
-        AppLog.WriteMessage(u"lost"_s);
-    }
-    QCOMPARE(readFile(path()), before);
-    AppLog.WriteMessage(u"there is room again"_s);
-    QCOMPARE(readFile(path()), before + Stamp + "there is room again\r\n");
+    const QByteArray line = Stamp + "first\r\nsecond\r\n";
+    forEachFullDisk(before.size() + line.size(), [&](rlim_t room) {
+        {
+            const FileSizeLimit full(room);
+            AppLog.WriteMessage(u"first\r\nsecond"_s);
+        }
+        QCOMPARE(readFile(path()), before);
+    });
+    AppLog.WriteMessage(u"first\r\nsecond"_s);
+    QCOMPARE(readFile(path()), before + line);
+}
+
+void TestLog::sessionThatFoundNoRoomBeginsWithTheFirstLineThatDoes_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("kept");
+    QTest::newRow("first session of the month") << ""_ba
+                                                << ""_ba;
+    QTest::newRow("behind another one")
+        << Separator + Started + Ended << (Separator + Started + Ended).chopped(1);
+}
+
+void TestLog::sessionThatFoundNoRoomBeginsWithTheFirstLineThatDoes()
+{
+    QFETCH(const QByteArray, before);
+    QFETCH(const QByteArray, kept);
+    forEachFullDisk((kept + Separator + Started).size(), [&](rlim_t room) {
+        writeFile(path(), before);
+        std::optional<CLog> AppLog;
+        {
+            const FileSizeLimit full(room);
+            AppLog.emplace(m_folder->path(), *m_clock, m_formats, m_codePage);
+        }
+        QCOMPARE(readFile(path()), before);
+        AppLog->WriteMessage(u"there is room again"_s);
+        AppLog.reset();
+        QCOMPARE(readFile(path()), kept + Separator + Stamp + "there is room again\r\n" + Ended);
+    });
 }
 
 void TestLog::logWithoutAFileLeavesNoTrace()

@@ -34,7 +34,9 @@ private Q_SLOTS:
     void logThatCannotBeOpenedSwallowsEverything_data();
     void logThatCannotBeOpenedSwallowsEverything();
     void logThatMayNotBeWrittenSwallowsEverything();
-    void fullDiskIsNotReported();
+    void lineThatFindsNoRoomLeavesTheLogAsItWas();
+    void sessionThatFoundNoRoomBeginsWithTheFirstLineThatDoes_data();
+    void sessionThatFoundNoRoomBeginsWithTheFirstLineThatDoes();
     void logWithoutAFileLeavesNoTrace();
 
 private:
