@@ -368,23 +368,56 @@ void TestAddressBooks::aNewBookThatCannotBeMadeChangesNothing()
     QCOMPARE(rig.names(), QStringList{u"Ada"_s});
 }
 
+void TestAddressBooks::aBookThatFindsNoRoomInTheListIsNotAdded()
+{
+    BooksRig rig;
+    rig.books.load();
+    const QByteArray before = rig.index();
+    const QString file = rig.path(u"Soci.rub"_s);
+    const QByteArray wanted = before + "Soci\r\n" + file.toLatin1() + "\r\n";
+    forEachFullDisk(wanted.size(), [&](rlim_t room) {
+        {
+            const FileSizeLimit full(room);
+            rig.add(u"Soci"_s, file);
+        }
+        const QList<Notice> notices = rig.prompts.takeNotices();
+        QCOMPARE(notices.size(), 1);
+        QCOMPARE(notices.front().text, u"The address book could not be added."_s);
+        QVERIFY(notices.front().detail.startsWith(rig.path(u"rubrica.ini"_s)));
+        QCOMPARE(rig.index(), before);
+        QCOMPARE(rig.bookNames(), QStringList{u"Standard"_s});
+    });
+    rig.add(u"Soci"_s, file);
+    QCOMPARE(rig.index(), wanted);
+}
+
 void TestAddressBooks::aListThatCannotBeSavedStays()
 {
     BooksRig rig(Ada, {{u"Soci"_s, {}}});
     rig.books.load();
-    rig.books.Rubriche_Click(1);
     const QByteArray before = rig.index();
-    const FileSizeLimit full(10);
-    rig.prompts.expectAnswer(Topic::DeleteBook, Answer::Ok);
-    rig.books.cmdRemove_Click();
-    rig.prompts.answerAll();
-    const QList<Notice> notices = rig.prompts.takeNotices();
-    QCOMPARE(notices.size(), 1);
-    QCOMPARE(notices.front().icon, Icon::Critical);
-    QCOMPARE(notices.front().text, u"The address book could not be removed."_s);
-    QVERIFY(notices.front().detail.startsWith(rig.path(u"rubrica.ini"_s)));
-    QCOMPARE(rig.index(), before);
-    QCOMPARE(rig.bookNames(), (QStringList{u"Standard"_s, u"Soci"_s}));
+    const QByteArray wanted = "Standard\r\nrubrica.rub\r\n";
+    const auto remove = [&rig] {
+        rig.books.Rubriche_Click(1);
+        rig.prompts.expectAnswer(Topic::DeleteBook, Answer::Ok);
+        rig.books.cmdRemove_Click();
+        rig.prompts.answerAll();
+    };
+    forEachFullDisk(wanted.size(), [&](rlim_t room) {
+        {
+            const FileSizeLimit full(room);
+            remove();
+        }
+        const QList<Notice> notices = rig.prompts.takeNotices();
+        QCOMPARE(notices.size(), 1);
+        QCOMPARE(notices.front().icon, Icon::Critical);
+        QCOMPARE(notices.front().text, u"The address book could not be removed."_s);
+        QVERIFY(notices.front().detail.startsWith(rig.path(u"rubrica.ini"_s)));
+        QCOMPARE(rig.index(), before);
+        QCOMPARE(rig.bookNames(), (QStringList{u"Standard"_s, u"Soci"_s}));
+    });
+    remove();
+    QCOMPARE(rig.index(), wanted);
 }
 
 void TestAddressBooks::whatAnotherProgramAddedIsTakenToo()

@@ -32,6 +32,7 @@ private Q_SLOTS:
     void noNameAndNoFileEndTheCommand();
     void theOpenBookIsSavedBeforeANewOneIsOpened();
     void aNewBookThatCannotBeMadeChangesNothing();
+    void aBookThatFindsNoRoomInTheListIsNotAdded();
     void aListThatCannotBeSavedStays();
     void whatAnotherProgramAddedIsTakenToo();
     void theStandardBookIsNotDeleted();

@@ -244,14 +244,17 @@ void TestOpenBook::aFailedSaveLeavesTheOldFile()
 {
     BookRig rig(Ada);
     rig.book.append(contactOf(u"Ben"_s, u"ben@mill.example"_s));
-    {
-        const FileSizeLimit full(20);
-        const auto saved = rig.book.SaveBookFile();
+    forEachFullDisk((Ada + Ben).size(), [&](rlim_t room) {
+        const auto saved = [&] {
+            const FileSizeLimit full(room);
+            return rig.book.SaveBookFile();
+        }();
         QVERIFY(!saved);
         QCOMPARE(saved.error().path, rig.path);
         QVERIFY(!saved.error().reason.isEmpty());
-    }
-    QCOMPARE(rig.content(), Ada);
+        QCOMPARE(rig.content(), Ada);
+        QCOMPARE(rig.files(), QStringList{u"soci.rub"_s});
+    });
     rig.save();
     QCOMPARE(rig.content(), Ada + Ben);
 }

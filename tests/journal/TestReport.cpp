@@ -3,6 +3,7 @@
 #include "journal/Report.h"
 #include "recipients/Totals.h"
 #include "support/DiskFiles.h"
+#include "support/FileSizeLimit.h"
 #include "support/ItalianTexts.h"
 
 #include <QJsonArray>
@@ -478,4 +479,31 @@ void TestReport::fileThatCannotBeWrittenIsSaid()
     const auto written = Report(subject(), {}).write(path);
     QVERIFY(!written);
     QCOMPARE(written.error().path, path);
+}
+
+void TestReport::fullDiskKeepsTheReportBefore_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("csv") << u"report.csv"_s;
+    QTest::newRow("json") << u"report.json"_s;
+}
+
+void TestReport::fullDiskKeepsTheReportBefore()
+{
+    QFETCH(QString, name);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(name);
+    QVERIFY(Report(subject(), {}).write(path));
+    const QByteArray before = readFile(path);
+    const Report report(subject(), {rowWith(RowState::Sent, Outcome::Sent, 250)});
+    const qsizetype size = (name.endsWith(u"json") ? report.toJson() : report.toCsv()).size();
+    forEachFullDisk(size, [&](rlim_t room) {
+        const auto written = [&] {
+            const FileSizeLimit full(room);
+            return report.write(path);
+        }();
+        QVERIFY(!written);
+        QCOMPARE(written.error().toText(), path + u": File too large"_s);
+        QCOMPARE(readFile(path), before);
+    });
 }

@@ -32,4 +32,6 @@ private Q_SLOTS:
     void endingOfTheNameDecidesOnTheForm_data();
     void endingOfTheNameDecidesOnTheForm();
     void fileThatCannotBeWrittenIsSaid();
+    void fullDiskKeepsTheReportBefore_data();
+    void fullDiskKeepsTheReportBefore();
 };

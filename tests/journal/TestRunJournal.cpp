@@ -63,6 +63,26 @@ QStringList recordedStates(const JournalRig &j)
     return states;
 }
 
+// Goes on as far as the run does; the server takes every message.
+void sendToTheEnd(JournalRig &j)
+{
+    if (j.rig->w.form.runState() != RunState::Waiting)
+        return;
+    j.rig->Timer.tick();
+    j.rig->smtp.raiseReady();
+    while (j.rig->smtp.messageInFlight())
+        j.rig->finishMessage();
+}
+
+// A run that gets so far as the disk has room.
+void runWithRoomFor(JournalRig &j, rlim_t bytes)
+{
+    j.fillForm(2);
+    const FileSizeLimit full(bytes);
+    j.rig->start();
+    sendToTheEnd(j);
+}
+
 } // namespace
 
 void TestRunJournal::startWritesTheProjectAsItStands()
@@ -375,6 +395,57 @@ void TestRunJournal::whoWasPassedOverBeforeAFullDiskIsNotSaidAgain()
     j.rig->smtp.raiseReady();
     QCOMPARE(j.rig->addressesSent(), QStringList(address));
     QCOMPARE(positionsOf(done), passedOver);
+}
+
+// Either there is room again, or the program dies and another one goes on.
+void TestRunJournal::whereverTheDiskIsFullEverybodyIsSentToOnce()
+{
+    const QStringList everybody{u"a1@example.net"_s, u"a2@example.net"_s};
+    JournalRig whole;
+    runWithRoomFor(whole, RLIM_INFINITY);
+    QCOMPARE(whole.rig->prompts.takeNoticeTexts(), QStringList(u"Sending ended."_s));
+    const auto beginning = static_cast<rlim_t>(whole.record().indexOf(" send\t"));
+    forEachFullDisk(whole.record().size(), [&](rlim_t room) {
+        // A record is begun as a whole: of the places in that, some are enough.
+        constexpr rlim_t Some = 15;
+        if (room % Some != 0 && room < beginning)
+            return;
+        JournalRig j;
+        runWithRoomFor(j, room);
+        const QStringList sent = j.rig->addressesSent();
+        QCOMPARE(j.rig->prompts.takeNotices().size(), 1); // why it stands, or that it has ended
+        // Who was handed over is on record, and nobody else.
+        QCOMPARE(j.records().isEmpty(), room < beginning);
+        if (!j.records().isEmpty()) {
+            const QStringList states = recordedStates(j);
+            for (int i = 0; i < everybody.size(); ++i)
+                QCOMPARE(states[i] != u"Waiting", sent.contains(everybody[i]));
+        }
+        const bool dies = room % 2 == 1;
+        if (dies) {
+            j.die();
+            j.fillForm(2);
+            if (!sent.isEmpty()) {
+                j.rig->prompts.expectAnswer(Topic::InterruptedRun, sent == everybody
+                                                                       ? Answer::OpenAsItIs
+                                                                       : Answer::Continue);
+            }
+            j.recovery->atStart();
+            j.rig->prompts.answerAll();
+        }
+        const bool isPaused = j.rig->w.form.runState() == RunState::Paused;
+        QCOMPARE(isPaused, sent != everybody && room >= beginning && !(dies && sent.isEmpty()));
+        if (isPaused)
+            j.pauseOrResume();
+        else if (sent != everybody)
+            j.rig->start();
+        sendToTheEnd(j);
+        QCOMPARE(dies ? sent + j.rig->addressesSent() : j.rig->addressesSent(), everybody);
+        QVERIFY(!j.rig->states().contains(u"Waiting"_s));
+        QVERIFY(dies || !j.rig->states().contains(u"Sending..."_s));
+        QCOMPARE(j.rig->prompts.takeNoticeTexts(),
+                 sent == everybody ? QStringList() : QStringList(u"Sending ended."_s));
+    });
 }
 
 void TestRunJournal::aDiskThatFailsPausesTheRun()

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void aFullDiskPausesTheRunAndResumeGoesOn();
     void whoWasPassedOverBeforeAFullDiskIsNotSaidAgain_data();
     void whoWasPassedOverBeforeAFullDiskIsNotSaidAgain();
+    void whereverTheDiskIsFullEverybodyIsSentToOnce();
     void aDiskThatFailsPausesTheRun();
     void aFolderThatMayNoLongerBeWrittenLetsAPausedRunStand();
     void aFolderThatMayNotBeWrittenLetsNoRunStart();

@@ -1,5 +1,6 @@
 #include "TestProjectFile.h"
 
+#include "support/FileSizeLimit.h"
 #include "support/WorkspaceRig.h"
 
 #include <QDir>
@@ -152,6 +153,48 @@ void TestProjectFile::aFailedSaveLeavesTheOldFile()
     }
     QCOMPARE(rig.w.form.projectPath(), projectPath(rig));
     QCOMPARE(rig.logged(), QStringList());
+}
+
+void TestProjectFile::aFullDiskLeavesTheOldFile_data()
+{
+    QTest::addColumn<bool>("paused");
+    QTest::newRow("without a run") << false;
+    QTest::newRow("in a pause") << true;
+}
+
+void TestProjectFile::aFullDiskLeavesTheOldFile()
+{
+    QFETCH(bool, paused);
+    WorkspaceRig rig;
+    rig.fillForm(3);
+    QVERIFY(save(rig, projectPath(rig)));
+    const QByteArray before = WorkspaceRig::contentOf(projectPath(rig));
+    if (paused) {
+        rig.startSending();
+        rig.w.engine.cmdPausa_Click();
+        rig.finishMessage();
+    } else {
+        rig.w.form.setText(Control::txtOggetto, QStringLiteral("News of May"));
+    }
+    const QString elsewhere = rig.folder.filePath(QStringLiteral("elsewhere.svk"));
+    QVERIFY(save(rig, elsewhere));
+    const QByteArray wanted = WorkspaceRig::contentOf(elsewhere);
+    QVERIFY(wanted != before);
+    rig.logged();
+    forEachFullDisk(wanted.size(), [&](rlim_t room) {
+        const bool saved = [&] {
+            const FileSizeLimit full(room);
+            return save(rig, projectPath(rig));
+        }();
+        QVERIFY(!saved);
+        QCOMPARE(rig.prompts.takeNoticeTexts(),
+                 QStringList{projectPath(rig) + QStringLiteral(": File too large")});
+        QCOMPARE(WorkspaceRig::contentOf(projectPath(rig)), before);
+        QCOMPARE(rig.w.form.projectPath(), elsewhere);
+    });
+    QCOMPARE(rig.logged(), QStringList());
+    QVERIFY(save(rig, projectPath(rig)));
+    QCOMPARE(WorkspaceRig::contentOf(projectPath(rig)), wanted);
 }
 
 void TestProjectFile::textBeyondTheCodePageIsSavedAsUtf8()

@@ -12,6 +12,8 @@ private Q_SLOTS:
     void loadingIsLoggedBeforeTheSizeIsComputed();
     void savingIsLogged();
     void aFailedSaveLeavesTheOldFile();
+    void aFullDiskLeavesTheOldFile_data();
+    void aFullDiskLeavesTheOldFile();
     void textBeyondTheCodePageIsSavedAsUtf8();
     void textOfTheCodePageIsSavedInIt();
     void aFileThatIsNoProjectIsRefused_data();
