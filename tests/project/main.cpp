@@ -3,12 +3,16 @@
 #include "TestProjectData.h"
 #include "TestProjectFile.h"
 #include "TestProjectRules.h"
+#include "TestTwoPrograms.h"
 #include "TestWindowLifecycle.h"
 #include "TestWindowSettings.h"
 #include "support/RunTests.h"
 
 int main(int argc, char **argv)
 {
-    return runTests<TestProjectData, TestProjectRules, TestProjectFile, TestProjectCommands,
-                    TestWindowSettings, TestWindowLifecycle, TestEditorCommands>(argc, argv);
+    if (TestTwoPrograms::runAsSecondProgram(argc, argv))
+        return 0;
+    return runTests<TestProjectData, TestProjectRules, TestProjectFile, TestTwoPrograms,
+                    TestProjectCommands, TestWindowSettings, TestWindowLifecycle,
+                    TestEditorCommands>(argc, argv);
 }

@@ -4,18 +4,17 @@
 #include "settings/IOReg.h"
 #include "settings/RegFileStore.h"
 #include "settings/Settings.h"
+#include "support/FileSizeLimit.h"
+#include "support/SecondProgram.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QProcess>
 #include <QSaveFile>
 #include <QTest>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 
-#include <atomic>
-#include <csignal>
+#include <functional>
 #include <stdexcept>
 #include <thread>
 
@@ -50,17 +49,6 @@ int countOfMany(const std::filesystem::path &file, const std::string &prefix)
     return count;
 }
 
-int writeBeyondTheLimit(const std::filesystem::path &file)
-{
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{4096, 4096};
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-    RegFileStore store(file);
-    IOReg reg(store);
-    reg.Init(CurrentUserRoot, Settings::Folder);
-    return reg.WriteStr("Server", std::string(100000, 'x'));
-}
-
 int waitForChange(const std::filesystem::path &file)
 {
     RegFileStore store(file);
@@ -69,27 +57,11 @@ int waitForChange(const std::filesystem::path &file)
     return reg.WaitForChange();
 }
 
-/// This test program started once more, in another part.
-class SecondProgram
+SecondProgram started(const char *part, const std::filesystem::path &file, const char *more = "")
 {
-public:
-    SecondProgram(const char *part, const std::filesystem::path &file, const char *more = "")
-    {
-        m_process.setProcessChannelMode(QProcess::ForwardedChannels);
-        m_process.start(QCoreApplication::applicationFilePath(),
-                        {QString::fromLatin1(part), QString::fromStdString(file.string()),
-                         QString::fromLatin1(more)});
-    }
-    [[nodiscard]] bool hasEnded() { return m_process.waitForFinished(0); }
-    [[nodiscard]] int exitCode()
-    {
-        m_process.waitForFinished(-1);
-        return m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
-    }
-
-private:
-    QProcess m_process;
-};
+    return SecondProgram({QString::fromLatin1(part), QString::fromStdString(file.string()),
+                          QString::fromLatin1(more)});
+}
 
 } // namespace
 
@@ -102,8 +74,6 @@ bool TestRegFileStore::runAsSecondProgram(const QStringList &arguments)
     int result = 0;
     if (part == u"write many")
         writeMany(file, arguments[3].toStdString());
-    else if (part == u"write beyond the limit")
-        result = writeBeyondTheLimit(file);
     else if (part == u"wait")
         result = waitForChange(file);
     else
@@ -271,18 +241,42 @@ void TestRegFileStore::fileThatCannotBeReadIsNeverWrittenOver()
         QCOMPARE(content(), QByteArray("\xff\xfe[\0", 4));
 }
 
-void TestRegFileStore::failedWriteLeavesTheOldFile()
+void TestRegFileStore::fullDiskLeavesTheOldFile()
 {
-    writeMany(m_file, "a");
+    setContent("; by hand\r\n");
+    RegFileStore store(m_file);
+    IOReg reg(store);
+    reg.Init(CurrentUserRoot, Settings::Folder);
+    reg.WriteStr("Server", "mail.example");
+    reg.WriteInt("Language", 1);
     const QByteArray before = content();
-    QCOMPARE(SecondProgram("write beyond the limit", m_file).exitCode(),
-             StoreCode::InputOutputFailed & 0xff);
-    QCOMPARE(content(), before);
-    int entries = 0;
-    for ([[maybe_unused]] const auto &entry :
-         std::filesystem::directory_iterator(m_file.parent_path()))
-        ++entries;
-    QCOMPARE(entries, 2); // the file and its lock
+    IOReg other(store);
+    const std::vector<std::function<std::int16_t()>> changes{
+        [&reg] { return reg.WriteStr("Server", "smtp.example"); },
+        [&reg] { return reg.WriteStr("Mittente", "The Club"); },
+        [&reg] { return reg.Delete("Language"); },
+        [&other] { return other.Init(CurrentUserRoot, "Software\\Calvessa\\Other"); }};
+    for (const auto &change : changes) {
+        QCOMPARE(change(), std::int16_t{0});
+        const QByteArray changed = content();
+        setContent(before);
+        forEachFullDisk(changed.size(), [&](rlim_t room) {
+            const int status = [&] {
+                const FileSizeLimit full(room);
+                return change();
+            }();
+            QCOMPARE(status, StoreCode::InputOutputFailed);
+            QCOMPARE(content(), before);
+            int entries = 0;
+            for ([[maybe_unused]] const auto &entry :
+                 std::filesystem::directory_iterator(m_file.parent_path()))
+                ++entries;
+            QCOMPARE(entries, 2); // the file and its lock
+        });
+        QCOMPARE(change(), std::int16_t{0});
+        QCOMPARE(content(), changed);
+        setContent(before);
+    }
 }
 
 void TestRegFileStore::restOfAChangeThatDiedIsNoHindrance()
@@ -329,8 +323,8 @@ void TestRegFileStore::twoThreadsAtOnceLoseNothing()
 
 void TestRegFileStore::twoProgramsAtOnceLoseNothing()
 {
-    SecondProgram first("write many", m_file, "first");
-    SecondProgram second("write many", m_file, "second");
+    SecondProgram first = started("write many", m_file, "first");
+    SecondProgram second = started("write many", m_file, "second");
     writeMany(m_file, "this");
     QCOMPARE(first.exitCode(), 0);
     QCOMPARE(second.exitCode(), 0);
@@ -345,19 +339,19 @@ void TestRegFileStore::readerNeverSeesHalfAFile()
     reg.Init(CurrentUserRoot, Settings::Folder);
     const std::string longText(50000, 'x');
     reg.WriteStr("Long", longText);
-    std::atomic<bool> done = false;
-    std::thread writer([&] {
-        writeMany(m_file, "a");
-        done = true;
-    });
+    SecondProgram first = started("write many", m_file, "first");
+    SecondProgram second = started("write many", m_file, "second");
     int torn = 0;
-    while (!done) {
+    while (!first.hasEnded() || !second.hasEnded()) {
         std::string text;
         if (reg.ReadStr("Long", text) != 0 || text != longText)
             ++torn;
     }
-    writer.join();
     QCOMPARE(torn, 0);
+    QCOMPARE(first.exitCode(), 0);
+    QCOMPARE(second.exitCode(), 0);
+    for (const char *prefix : {"first", "second"})
+        QCOMPARE(countOfMany(m_file, prefix), WritesOfEach);
 }
 
 void TestRegFileStore::changeByAnotherProgramEndsTheWait()
@@ -365,7 +359,7 @@ void TestRegFileStore::changeByAnotherProgramEndsTheWait()
     RegFileStore store(m_file);
     IOReg reg(store);
     reg.Init(CurrentUserRoot, Settings::Folder);
-    SecondProgram waiting("wait", m_file);
+    SecondProgram waiting = started("wait", m_file);
     while (!waiting.hasEnded())
         reg.WriteStr("Server", "the same each time");
     QCOMPARE(waiting.exitCode(), 0);
@@ -375,7 +369,7 @@ void TestRegFileStore::changeWithAnEditorEndsTheWait()
 {
     writeMany(m_file, "a");
     const QByteArray before = content();
-    SecondProgram waiting("wait", m_file);
+    SecondProgram waiting = started("wait", m_file);
     for (int i = 0; !waiting.hasEnded(); ++i)
         setContent(before + "\"Server\"=\"" + QByteArray::number(i) + "\"\n");
     QCOMPARE(waiting.exitCode(), 0);

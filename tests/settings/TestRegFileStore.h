@@ -31,7 +31,7 @@ private Q_SLOTS:
     void damagedLinesAreNeverLost();
     void fileThatCannotBeReadIsNeverWrittenOver_data();
     void fileThatCannotBeReadIsNeverWrittenOver();
-    void failedWriteLeavesTheOldFile();
+    void fullDiskLeavesTheOldFile();
     void restOfAChangeThatDiedIsNoHindrance();
     void pathThatCannotBeAKeyIsRefused();
     void nameWithControlCharactersIsRefused();
