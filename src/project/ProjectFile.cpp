@@ -139,7 +139,7 @@ LoadOutcome ProjectFile::LoadProject(const QString &path)
                           FileError{path, reason}.toText()});
     };
     const Stamp stamp = stampOf(path);
-    const auto content = readWholeFile(path);
+    const auto content = readTextFile(path);
     if (!content) {
         refuse(content.error().reason);
         return LoadOutcome::Refused;

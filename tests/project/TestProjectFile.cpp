@@ -251,6 +251,29 @@ void TestProjectFile::aFileThatIsNoProjectIsRefused()
     QCOMPARE(rig.logged(), QStringList());
 }
 
+void TestProjectFile::aFileThatOnlyBeginsAsUtf8IsRefused()
+{
+    WorkspaceRig rig;
+    rig.fillForm(2);
+    QVERIFY(save(rig, projectPath(rig)));
+    QByteArray content = "\xEF\xBB\xBF" + WorkspaceRig::contentOf(projectPath(rig));
+    const QString other = rig.file(QStringLiteral("other.svk"), content);
+    QCOMPARE(rig.w.projectFile.LoadProject(other), LoadOutcome::Loaded);
+    content.replace("The Club", "Zo\xEB");
+    rig.file(QStringLiteral("other.svk"), content);
+    rig.w.projectFile.LoadProject(projectPath(rig));
+    QCOMPARE(rig.w.projectFile.LoadProject(other), LoadOutcome::Refused);
+    const QList<Notice> notices = rig.prompts.takeNotices();
+    QCOMPARE(notices.size(), 1);
+    QCOMPARE(notices.front().text, UnableToLoad);
+    QCOMPARE(notices.front().detail,
+             other + QStringLiteral(": it begins as UTF-8 and goes on otherwise"));
+    QCOMPARE(rig.w.form.projectPath(), projectPath(rig));
+    QCOMPARE(rig.w.form.text(Control::txtMittente), QStringLiteral("The Club"));
+    rig.w.projectCommands.cmdSave_Click();
+    QCOMPARE(WorkspaceRig::contentOf(other), content);
+}
+
 void TestProjectFile::aFileCutInsideARecipientLosesItsName()
 {
     WorkspaceRig rig;

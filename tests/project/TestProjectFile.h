@@ -18,6 +18,7 @@ private Q_SLOTS:
     void textOfTheCodePageIsSavedInIt();
     void aFileThatIsNoProjectIsRefused_data();
     void aFileThatIsNoProjectIsRefused();
+    void aFileThatOnlyBeginsAsUtf8IsRefused();
     void aFileCutInsideARecipientLosesItsName();
     void aFileCutAtEveryByteIsNeverWrittenOver();
     void aProjectSavedInAPauseReopensPaused();

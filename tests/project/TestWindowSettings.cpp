@@ -68,3 +68,25 @@ void TestWindowSettings::trailingBlanksAndAccentsStay()
         QCOMPARE(rig.w.form.text(Control::txtMittente), name);
     }
 }
+
+// Each value is read by itself, and each line that is not set stays byte for byte.
+void TestWindowSettings::aFileThatOnlyBeginsAsUtf8LosesNothing()
+{
+    WorkspaceRig rig;
+    const QByteArray heading = QByteArray("[HKEY_CURRENT_USER\\") + Settings::Folder + "]\r\n";
+    const QByteArray others = "\"Zo\xEB\"=\"\xE8\"\r\n; Zo\xEB\r\n";
+    const QString path = rig.file(QStringLiteral("settings.reg"),
+                                  "\xEF\xBB\xBF" + heading + "\"Mittente\"=\"Zo\xEB\"\r\n" +
+                                      "\"Server\"=\"mail.citt\xC3\xA0.example\"\r\n" + others);
+    rig.w.windowSettings.LoadSettings();
+    QCOMPARE(rig.w.form.text(Control::txtMittente), QStringLiteral("Zoë"));
+    QCOMPARE(rig.w.form.text(Control::txtServer), QStringLiteral("mail.città.example"));
+    rig.w.windowSettings.SaveSettings();
+    const QByteArray saved = WorkspaceRig::contentOf(path);
+    QVERIFY(saved.startsWith("\xEF\xBB\xBF" + heading + "\"Mittente\"=\"Zo\xEB\"\r\n"));
+    QVERIFY(saved.contains(others));
+    rig.w.form.setText(Control::txtMittente, {});
+    rig.w.windowSettings.LoadSettings();
+    QCOMPARE(rig.w.form.text(Control::txtMittente), QStringLiteral("Zoë"));
+    QCOMPARE(rig.w.form.text(Control::txtServer), QStringLiteral("mail.città.example"));
+}

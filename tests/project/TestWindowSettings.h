@@ -11,4 +11,5 @@ private Q_SLOTS:
     void whatIsSavedIsLoaded();
     void aMissingChoiceOfSeveralRecipientsTakesTheReceipts();
     void trailingBlanksAndAccentsStay();
+    void aFileThatOnlyBeginsAsUtf8LosesNothing();
 };
