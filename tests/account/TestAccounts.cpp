@@ -4,7 +4,9 @@
 #include "settings/IOReg.h"
 #include "settings/RegFileStore.h"
 #include "settings/Settings.h"
+#include "smtp/ServerReport.h"
 #include "support/DiskFiles.h"
+#include "support/FileSizeLimit.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -177,4 +179,25 @@ void TestAccounts::fileThatCannotBeWrittenIsSaid()
     QVERIFY(!rig.accounts.setAccount(u"h"_s, exampleAccount()));
     QVERIFY(!rig.accounts.trust(u"h"_s, QByteArray(32, 'a')));
     QCOMPARE(rig.accounts.account(u"h"_s), ServerAccount());
+}
+
+void TestAccounts::fullDiskIsSaidAndLeavesWhatIsTrusted()
+{
+    Rig rig;
+    const QByteArray first(32, 'a');
+    const QByteArray second(32, 'b');
+    QVERIFY(rig.accounts.trust(u"h"_s, first));
+    const QByteArray before = readFile(rig.file);
+    const qsizetype added = fingerprintText(second).size() + 1;
+    forEachFullDisk(before.size() + added, [&](rlim_t room) {
+        const bool isKept = [&] {
+            const FileSizeLimit full(room);
+            return rig.accounts.trust(u"h"_s, second);
+        }();
+        QVERIFY(!isKept);
+        QCOMPARE(readFile(rig.file), before);
+    });
+    QVERIFY(rig.accounts.trust(u"h"_s, second));
+    QCOMPARE(readFile(rig.file).size(), before.size() + added);
+    QCOMPARE(rig.accounts.account(u"h"_s).trustedCertificates, (QList<QByteArray>{first, second}));
 }

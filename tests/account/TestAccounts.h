@@ -20,4 +20,5 @@ private Q_SLOTS:
     void trustIsForOneCertificateAndCanBeTakenBack();
     void onlyWhatDiffersIsWritten();
     void fileThatCannotBeWrittenIsSaid();
+    void fullDiskIsSaidAndLeavesWhatIsTrusted();
 };
