@@ -8,6 +8,7 @@
 
 tl::expected<void, QString> appendWhole(QFile &file, const QByteArray &bytes)
 {
+    const qint64 start = file.pos();
     qint64 written = 0;
     // What a disk has room for only in part is refused without a reason; offered the rest, the
     // system says why.
@@ -15,9 +16,10 @@ tl::expected<void, QString> appendWhole(QFile &file, const QByteArray &bytes)
         const qint64 part = file.write(bytes.constData() + written, bytes.size() - written);
         if (part <= 0) {
             const QString reason = file.errorString();
-            const qint64 end = file.size() - written;
-            file.resize(end);
-            file.seek(end);
+            // What another program wrote behind it meanwhile stays.
+            if (file.size() == start + written)
+                file.resize(start);
+            file.seek(start);
             return tl::unexpected(reason);
         }
         written += part;
