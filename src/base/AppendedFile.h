@@ -7,8 +7,8 @@
 
 class QFile;
 
-/// Writes all of the bytes at the end of a file, where its position is, or nothing; else returns what
-/// the system says of it. The file is open without a buffer.
+/// Writes all of the bytes at the end of a file, where its position is, or nothing; else returns
+/// what the system says of it. The file is open without a buffer.
 [[nodiscard]] tl::expected<void, QString> appendWhole(QFile &file, const QByteArray &bytes);
 
 /// A file that only grows. What append has taken survives the end of the program; what is on the
