@@ -1401,6 +1401,13 @@ Considerare attendibile questo certificato per questo server d&apos;ora in poi?<
             <numerusform>%1 rimasti</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%1 sent to in an earlier run</source>
+        <translation>
+            <numerusform>%1 già raggiunto da un invio precedente</numerusform>
+            <numerusform>%1 già raggiunti da un invio precedente</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>TraceFile</name>

@@ -31,7 +31,7 @@ std::optional<QStringView> LineReader::next()
 
 QString oneLine(QString text)
 {
-    // Nearly every text is one line already; a list as long as it can be asks 160,000 times.
+    // Nearly every text is one line already; a list as long as it can be asks 200,000 times.
     if (std::none_of(text.cbegin(), text.cend(), isLineEnd))
         return text;
     text.replace(QLatin1String("\r\n"), QLatin1String(" "));

@@ -216,8 +216,10 @@ void SendCommand::endRun(Ending ending)
     const bool failed = ending == Ending::Failed;
     // Who broke off in the middle must not begin at the first recipient again.
     const bool anyHandedOver = std::any_of(rows.begin(), rows.end(), mayHaveTheMessage);
-    const bool isChanged = m_options.save || m_isWrittenBack || m_interrupted ||
-                           ending == Ending::Halted || (failed && anyHandedOver);
+    // A run that reached nobody knows less than the project does of whom an earlier one reached.
+    const bool anyReached = anyHandedOver || std::any_of(rows.begin(), rows.end(), isRefused);
+    const bool isChanged = m_isWrittenBack || m_interrupted || ending == Ending::Halted ||
+                           (failed && anyHandedOver) || (m_options.save && (anyReached || !failed));
     // What an interruption saved is the better record of a failure: it can go on.
     if (isChanged && !(failed && m_interrupted))
         save([this, ending] { conclude(ending); });

@@ -6,14 +6,17 @@
 
 namespace {
 
-bool isRefused(const Recipient &row)
-{
-    return stateOf(row) == RowState::Error;
-}
-
 bool isCheckedAndMayHaveIt(const Recipient &row)
 {
     return row.checked && mayHaveTheMessage(row);
+}
+
+/// Start has taken the row's state, and nothing was handed over for it since.
+bool isCheckedAndMayHaveAnEarlierOne(const Recipient &row)
+{
+    const Outcome outcome = row.attempt.outcome;
+    return row.checked && stateOf(row) == RowState::Waiting &&
+           (outcome == Outcome::Sent || outcome == Outcome::InDoubt);
 }
 
 } // namespace
@@ -53,19 +56,21 @@ RunBar::Content RunBar::contentFor(const std::vector<Recipient> &rows, Language 
     const Totals meant = totalsOfMeant(rows);
     const TotalsText words(language);
     const bool someHaveProblems = meant.refused > 0 || meant.inDoubt > 0;
+    Content content;
     if (meant.waiting > 0 && (meant.sent > 0 || someHaveProblems)) {
-        Content content{words.soFar(meant) + u'.', {Control::cmdShowRest}};
-        if (std::ranges::any_of(rows, isCheckedAndMayHaveIt))
-            content.buttons.prepend(Control::cmdUncheckSent);
-        return content;
-    }
-    if (meant.waiting == 0 && someHaveProblems) {
-        Content content{words.atTheEnd(meant) + u'.', {Control::cmdReport}};
+        content = {words.soFar(meant) + u'.', {Control::cmdShowRest}};
+    } else if (meant.waiting == 0 && someHaveProblems) {
+        content = {words.atTheEnd(meant) + u'.', {Control::cmdReport}};
         if (meant.refused > 0)
             content.buttons.prepend(Control::cmdCheckRefused);
-        return content;
+    } else if (const auto earlier = std::ranges::count_if(rows, isCheckedAndMayHaveAnEarlierOne)) {
+        // A Start that failed before it reached anybody: the next one would mail them again.
+        return {words.earlier(static_cast<int>(earlier)) + u'.', {Control::cmdUncheckSent}};
     }
-    return {};
+    // At the end too: whoever presses Start again must not have to think of them.
+    if (!content.buttons.isEmpty() && std::ranges::any_of(rows, isCheckedAndMayHaveIt))
+        content.buttons.prepend(Control::cmdUncheckSent);
+    return content;
 }
 
 bool RunBar::isLeft(const Recipient &row)
@@ -75,7 +80,10 @@ bool RunBar::isLeft(const Recipient &row)
 
 void RunBar::cmdUncheckSent_Click()
 {
-    m_commands.cmdUncheckAll_Click(m_recipients.positionsWhere(isCheckedAndMayHaveIt));
+    auto positions = m_recipients.positionsWhere(isCheckedAndMayHaveIt);
+    if (positions.empty())
+        positions = m_recipients.positionsWhere(isCheckedAndMayHaveAnEarlierOne);
+    m_commands.cmdUncheckAll_Click(positions);
 }
 
 // Rows that are as they should be keep their pictures.

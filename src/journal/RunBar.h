@@ -32,7 +32,7 @@ public:
     [[nodiscard]] static bool isLeft(const Recipient &row);
 
     /// Unchecks the rows that have the message, and those that may have it: whoever is to risk a
-    /// second one is checked by hand.
+    /// second one is checked by hand. Where the last run reached nobody, those of the run before.
     void cmdUncheckSent_Click();
     void cmdCheckRefused_Click();
 

@@ -71,6 +71,11 @@ bool mayHaveTheMessage(const Recipient &row)
     return state == RowState::Sent || state == RowState::Sending;
 }
 
+bool isRefused(const Recipient &row)
+{
+    return stateOf(row) == RowState::Error;
+}
+
 bool isInDoubt(const Recipient &row)
 {
     return stateOf(row) == RowState::Sending && row.attempt.outcome != Outcome::InFlight;

@@ -53,6 +53,9 @@ struct Recipient
 /// broke off.
 [[nodiscard]] bool mayHaveTheMessage(const Recipient &row);
 
+/// Whether the server refused the row.
+[[nodiscard]] bool isRefused(const Recipient &row);
+
 /// Whether the row is "Sending..." and nothing is on its way any more.
 [[nodiscard]] bool isInDoubt(const Recipient &row);
 

@@ -29,6 +29,11 @@ QString TotalsText::atTheEnd(const Totals &totals) const
     return tr("%1 sent", "", totals.sent).arg(number(totals.sent)) + problems(totals);
 }
 
+QString TotalsText::earlier(int count) const
+{
+    return tr("%1 sent to in an earlier run", "", count).arg(number(count));
+}
+
 QString TotalsText::left(const Totals &totals) const
 {
     return tr("%1 left", "", totals.waiting).arg(number(totals.waiting));

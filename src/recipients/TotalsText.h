@@ -18,6 +18,8 @@ public:
     [[nodiscard]] QString soFar(const Totals &totals) const;
     /// "1,441 sent, 9 refused": when nobody is left.
     [[nodiscard]] QString atTheEnd(const Totals &totals) const;
+    /// "867 sent to in an earlier run": to whom the present one has not come.
+    [[nodiscard]] QString earlier(int count) const;
     /// "867 left"
     [[nodiscard]] QString left(const Totals &totals) const;
     /// "578 of 1,450 sent, 3 refused, 2 in doubt, 867 left": of a run, wherever it stands.

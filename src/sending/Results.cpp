@@ -83,7 +83,7 @@ SettledMessage SendingEngine::mark(const MessageInFlight &message,
     return settlement;
 }
 
-// A line for each row of which it is known; what is in doubt stands in no line of its own.
+// A line for each row that was sent or refused; what broke off stands in no line of its own.
 void SendingEngine::log(const MessageInFlight &message, const std::vector<RowResult> &results)
 {
     const QString subject = isStale(message) ? message.subject : m_form.text(Control::txtOggetto);

@@ -94,10 +94,14 @@ std::int32_t RegistryStore::waitForChange(Key key)
 {
     std::shared_lock guard(m_mutex);
     const auto handle = static_cast<HKEY>(handleOf(key));
-    // Closing the key ends the wait, and has to be possible meanwhile.
-    guard.unlock();
+    const HANDLE changed = CreateEventA(nullptr, TRUE, FALSE, nullptr);
     const std::int32_t code =
-        RegNotifyChangeKeyValue(handle, FALSE, REG_NOTIFY_CHANGE_LAST_SET, nullptr, FALSE);
+        RegNotifyChangeKeyValue(handle, FALSE, REG_NOTIFY_CHANGE_LAST_SET, changed, TRUE);
+    // Closing the key ends the wait too, and has to be possible meanwhile.
+    guard.unlock();
+    if (code == ERROR_SUCCESS)
+        WaitForSingleObject(changed, INFINITE);
+    CloseHandle(changed);
     guard.lock();
     // The registry calls that a success too.
     return handleOf(key) == nullptr ? StoreCode::InvalidHandle : code;

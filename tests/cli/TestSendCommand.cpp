@@ -321,12 +321,24 @@ void TestSendCommand::aSessionThatFailsIsSaidAndWrittenBack()
     QCOMPARE(rig.exitCode, ExitCode::Refused);
 }
 
+void TestSendCommand::aSessionThatFailsBeforeAnyMessageLeavesTheProject_data()
+{
+    QTest::addColumn<bool>("save");
+    QTest::newRow("as it is") << false;
+    QTest::newRow("--save") << true;
+}
+
 void TestSendCommand::aSessionThatFailsBeforeAnyMessageLeavesTheProject()
 {
+    QFETCH(bool, save);
     SendRig rig;
+    rig.author.w.recipients.setState(1, Sent);
     rig.saveProject();
     const QByteArray before = WorkspaceRig::contentOf(rig.path);
-    rig.start();
+    SendOptions options;
+    options.save = save;
+    options.again = true;
+    rig.start(options);
     rig.Timer.tick();
     rig.smtp.raiseError(4, QStringLiteral("connection refused"));
     QCOMPARE(rig.exitCode, ExitCode::SessionError);

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void againSendsToEverybody();
     void restWithNothingLeftSendsNothing();
     void aSessionThatFailsIsSaidAndWrittenBack();
+    void aSessionThatFailsBeforeAnyMessageLeavesTheProject_data();
     void aSessionThatFailsBeforeAnyMessageLeavesTheProject();
     void ctrlCBeforeTheFirstPacketSavesThePause();
     void ctrlCInsideAMessageWaitsForIt();

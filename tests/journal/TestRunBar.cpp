@@ -70,10 +70,11 @@ void TestRunBar::whatItShowsFollowsTheCheckedRows_data()
     row("Error! Waiting", "0 of 2 sent, 1 refused.", u"cmdShowRest"_s);
     row("Sending... Waiting", "0 of 2 sent, 1 in doubt.", goOn);
     row("Sent Error! Error! Sending... Waiting Sent", "2 of 6 sent, 2 refused, 1 in doubt.", goOn);
-    row("Sent Error!", "1 sent, 1 refused.", u"cmdCheckRefused cmdReport"_s);
+    row("Sent Error!", "1 sent, 1 refused.", u"cmdUncheckSent cmdCheckRefused cmdReport"_s);
     row("Error!", "0 sent, 1 refused.", u"cmdCheckRefused cmdReport"_s);
-    row("Sent Sending...", "1 sent, 1 in doubt.", u"cmdReport"_s);
-    row("Sent Sending... Error!", "1 sent, 1 refused, 1 in doubt.", u"cmdCheckRefused cmdReport"_s);
+    row("Sent Sending...", "1 sent, 1 in doubt.", u"cmdUncheckSent cmdReport"_s);
+    row("Sent Sending... Error!", "1 sent, 1 refused, 1 in doubt.",
+        u"cmdUncheckSent cmdCheckRefused cmdReport"_s);
     // A word of no language of the program's is yet to be reached.
     row("Sent Pending", "1 of 2 sent.", goOn);
     row("Inviato Attesa", "1 of 2 sent.", goOn);
@@ -213,6 +214,29 @@ void TestRunBar::afterUncheckingThoseSentStartReachesTheRest()
         rig.finishMessage();
     QCOMPARE(rig.addressesSent(), QStringList({u"a2@example.net"_s, u"a4@example.net"_s}));
     QCOMPARE(rig.prompts.takeNoticeTexts(), QStringList{u"Sending ended."_s});
+}
+
+void TestRunBar::aStartThatReachedNobodyRemembersTheRunBefore()
+{
+    BarRig rig;
+    rig.fillForm(4);
+    rig.startSending();
+    rig.finishMessage();
+    rig.finishMessage(false);
+    rig.smtp.raiseError(10, u"lost"_s); // the third is in doubt
+    rig.start();
+    rig.Timer.tick();
+    rig.smtp.raiseError(4, u"refused"_s);
+    rig.settle();
+    QCOMPARE(rig.states(), QStringList(4, u"Waiting"_s));
+    QCOMPARE(rig.bar.content().text, u"2 sent to in an earlier run."_s);
+    QCOMPARE(rig.buttons(), u"cmdUncheckSent"_s);
+
+    rig.bar.cmdUncheckSent_Click();
+    rig.settle();
+    QCOMPARE(rig.checks(), u"-x-x"_s);
+    QCOMPARE(rig.bar.content(), RunBar::Content());
+    static_cast<void>(rig.prompts.takeNotices());
 }
 
 void TestRunBar::checkingTheRefusedUnchecksAllOthers()

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void rowsOfAnotherProjectReplaceIt();
     void uncheckingThoseSentUnchecksThoseInDoubtToo();
     void afterUncheckingThoseSentStartReachesTheRest();
+    void aStartThatReachedNobodyRemembersTheRunBefore();
     void checkingTheRefusedUnchecksAllOthers();
     void rowsThatAreAsTheyShouldBeKeepTheirPictures();
     void theRestIsWhoIsCheckedAndWaits();
