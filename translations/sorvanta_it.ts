@@ -229,8 +229,8 @@ Qualcuno potrebbe fingersi il server. Chiedere al fornitore di leggere l&apos;im
 Considerare attendibile questo certificato per questo server d&apos;ora in poi?</translation>
     </message>
     <message>
-        <source>The certificate is trusted from now on. You can press Start again.</source>
-        <translation>D&apos;ora in poi questo certificato è considerato attendibile. È possibile premere di nuovo Avvia.</translation>
+        <source>The certificate is trusted from now on. If part of the list already has the message, uncheck those first; then press Start.</source>
+        <translation>D&apos;ora in poi questo certificato è considerato attendibile. Se una parte dell&apos;elenco ha già ricevuto il messaggio, togliere prima il segno di spunta a quelle righe; poi premere Avvia.</translation>
     </message>
     <message>
         <source>The settings cannot be written; the certificate is not trusted.</source>

@@ -79,7 +79,8 @@ void CertificateQuestion::trust(const QString &host, const QByteArray &fingerpri
     if (m_accounts.trust(host, fingerprint)) {
         m_prompts.notice(
             {Icon::Information, tr("Certificate"),
-             tr("The certificate is trusted from now on. You can press Start again.")});
+             tr("The certificate is trusted from now on. If part of the list already has the "
+                "message, uncheck those first; then press Start.")});
     } else {
         m_prompts.notice({Icon::Critical, tr("Certificate"),
                           tr("The settings cannot be written; the certificate is not trusted.")});
