@@ -21,13 +21,16 @@ const char Usage[] = R"(Usage: sorvanta-cli COMMAND ...
         --rest         leave out the recipients marked "Sent" or "Sending..."
         --again        send to them again
         --yes          go on although linked pictures will not travel
-        --save         write rows and states back into the project after the run
+        --save         write rows and states back into the project after the
+                       run, unless it failed before it had reached anybody
         --report FILE  write what became of every recipient, as a table for
                        spreadsheets, or as JSON when FILE ends in ".json"
         --json         one JSON object a line instead of text
-      When a run of the project ended with its program, one of the first three
-      must be said. A project is always written back after that, when it went on
-      from a pause, when the session failed after a message had been handed over,
+      A project that was already sent in part is refused until --rest or --again
+      says which is meant. When a run of the project ended with its program, one
+      of the first three must be said. A project is always written back after
+      that, when it went on from a pause, when the session failed after a
+      message had been handed over, when the run could not be recorded any more,
       and after Ctrl-C.
       Exit status: 0 all sent, 1 some refused or in doubt, 2 nothing begun,
       3 session error, or something could not be written, 130 paused by Ctrl-C.
