@@ -1,9 +1,13 @@
 # shellcheck shell=bash
 # Completes the commands of sorvanta-cli, their options, and what belongs behind these.
 
-# Offers those of the words that begin with what stands there.
+# Offers those of the words that begin with what stands there. Not by `compgen -W`, which expands
+# its words: one that a program prints would be run.
 _sorvanta_cli_words() {
-  mapfile -t COMPREPLY < <(compgen -W "$*" -- "$word")
+  local offered
+  for offered; do
+    [[ $offered != "$word"* ]] || COMPREPLY+=("$offered")
+  done
 }
 
 # Offers folders, and the files whose names end so, in any case of letters.
@@ -17,11 +21,14 @@ _sorvanta_cli_files() {
 
 # Offers the names of a list that the program prints.
 _sorvanta_cli_names() {
-  _sorvanta_cli_words "$("${COMP_WORDS[0]}" "$@" 2>/dev/null | cut -d = -f 1)"
+  local -a names
+  mapfile -t names < <("${COMP_WORDS[0]}" "$@" 2>/dev/null | cut -d = -f 1)
+  _sorvanta_cli_words "${names[@]}"
 }
 
 _sorvanta_cli() {
   local word=$2 before=$3 command=${COMP_WORDS[1]}
+  local -a offers
   local -A options=(
     [send]="--continue --rest --again --yes --save --report --json --password-command --trace"
     [check]="--offline --password-command --trace"
@@ -44,7 +51,8 @@ _sorvanta_cli() {
     account) (( COMP_CWORD != 3 )) || _sorvanta_cli_names account "${COMP_WORDS[2]}" ;;
     send | check | test | compose | server)
       if [[ $word == -* ]]; then
-        _sorvanta_cli_words "${options[$command]}"
+        read -ra offers <<< "${options[$command]}"
+        _sorvanta_cli_words "${offers[@]}"
       elif [[ $command != server ]]; then
         _sorvanta_cli_files .svk
       fi ;;

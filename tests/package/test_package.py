@@ -52,15 +52,15 @@ class TheCommand(WithThePackage):
         """Every long option of the help."""
         return set(re.findall(r"(?<![\w-])--[a-z][a-z-]+", self.help()))
 
-    def completions(self, *words):
-        """What the shell offers for the last of the words."""
+    def completions(self, *words, program="sorvanta-cli"):
+        """What the shell offers for the last of the words behind the program."""
         script = (
             '. "$1"; shift; COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1)); compopt() { :; }\n'
             '_sorvanta_cli "$1" "${COMP_WORDS[COMP_CWORD]}" "${COMP_WORDS[COMP_CWORD - 1]}"\n'
             'printf "%s\\n" "${COMPREPLY[@]}"'
         )
         completion = self.root.shared / "bash-completion" / "completions" / "sorvanta-cli"
-        said = self.printed("bash", "-c", script, "-", completion, "sorvanta-cli", *words)
+        said = self.printed("bash", "-c", script, "-", completion, program, *words)
         return set(said.split())
 
     def test_it_says_its_version(self):
@@ -103,6 +103,13 @@ class TheCommand(WithThePackage):
         self.assertEqual(self.completions("check", "W"), {"WINTER.SVK"})
         self.assertEqual(self.completions("settings", "Email"), {"EmailMittente"})
         self.assertEqual(self.completions("account", "mail.example", "Tok"), {"TokenCommand"})
+
+    def test_the_shell_runs_nothing_of_what_the_program_prints(self):
+        teller = self.home / "teller"
+        teller.write_text("#!/bin/sh\necho '$(>ran)=1'\n", "utf-8")
+        teller.chmod(0o755)
+        self.assertEqual(self.completions("settings", "", program=teller), {"$(>ran)"})
+        self.assertFalse((self.home / "ran").exists())
 
 
 class TheAdministrator(WithThePackage):
