@@ -83,6 +83,11 @@ NO_ERRORS = {
     "the session is over": "nobody is told",
     "there is no session to send a message in": "the engine does not do that",
 }
+# Buttons and states that the sources name in both languages themselves, without the catalogue.
+NAMED_BY_THE_SOURCES = {
+    "en": {"Waiting", "Sending...", "Sent", "Not sent", "Error!", "Pause", "Resume"},
+    "it": {"Attesa", "Invio...", "Inviato", "Non inviato", "Errore!", "Pausa", "Riprendi"},
+}
 # The title of a box, right behind its sign.
 TITLE = re.compile(r"^[A-Z][A-Za-z]*(?:-[A-Z][a-z]*| [a-z]+)?$")
 # Words for people, as the client says them.
@@ -120,7 +125,7 @@ class Page(HTMLParser):
         self.said = {language: [] for language in LANGUAGES}
         self.said_in_both = {language: [] for language in LANGUAGES}
         self.shown = {language: [] for language in LANGUAGES}
-        self.text = ""
+        self.texts = [""]  # of the elements that are open, behind what stands in none
         self.feed(path.read_text("utf-8"))
         self.close()
 
@@ -136,18 +141,20 @@ class Page(HTMLParser):
         self.links[self.language] += [attributes[a] for a in ("href", "src") if a in attributes]
         if tag not in WITHOUT_END:
             self.open.append((tag, attrs))
-            self.text = ""
+            self.texts.append("")
 
     def handle_data(self, data):
-        self.text += data
+        self.texts[-1] += data
 
     def handle_endtag(self, tag):
         opened, attrs = self.open.pop()
+        said = self.texts.pop()
+        self.texts[-1] += said
         if opened != tag:
             raise ValueError(f"{self.path}:{self.getpos()[0]}: <{opened}> ends as <{tag}>")
         attributes = dict(attrs)
         kind = attributes.get("class")
-        text = plain(self.text)
+        text = plain(said)
         if re.fullmatch("h[1-6]", tag):
             self.headings[self.language].append(tag)
         if tag == "q" and kind == "said":
@@ -275,10 +282,8 @@ class HelpPages(unittest.TestCase):
 
     def test_buttons_fields_and_states_are_named_as_the_windows_name_them(self):
         for language in LANGUAGES:
-            known = {
-                bare(text).replace("&", "")
-                for text in self.texts.in_language(language) | self.texts.fixed
-            }
+            names = self.texts.in_language(language) | NAMED_BY_THE_SOURCES[language]
+            known = {bare(text).replace("&", "") for text in names}
             for path, page in self.error_pages.items():
                 for name in page.shown[language]:
                     with self.subTest(page=path.name, name=name):
@@ -296,6 +301,11 @@ class HelpPages(unittest.TestCase):
             for text in self.texts.fixed_of_failures:
                 with self.subTest(language=language, text=text):
                     self.assertTrue(any(quotes(q, text) for q in fixed))
+
+    def test_what_the_sources_name_themselves_is_still_named_there(self):
+        for language, names in NAMED_BY_THE_SOURCES.items():
+            with self.subTest(language=language):
+                self.assertEqual(names - self.texts.fixed, set())
 
     def test_what_is_no_failure_is_still_a_text_of_the_program(self):
         known = set(self.texts.translated) | self.texts.fixed
