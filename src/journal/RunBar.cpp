@@ -56,20 +56,28 @@ RunBar::Content RunBar::contentFor(const std::vector<Recipient> &rows, Language 
     const Totals meant = totalsOfMeant(rows);
     const TotalsText words(language);
     const bool someHaveProblems = meant.refused > 0 || meant.inDoubt > 0;
+    const bool anyHasIt = std::ranges::any_of(rows, isCheckedAndMayHaveIt);
+    const auto earlier =
+        anyHasIt ? 0 : std::ranges::count_if(rows, isCheckedAndMayHaveAnEarlierOne);
+    QStringList pieces;
     Content content;
     if (meant.waiting > 0 && (meant.sent > 0 || someHaveProblems)) {
-        content = {words.soFar(meant) + u'.', {Control::cmdShowRest}};
+        pieces.append(words.soFar(meant));
+        content.buttons = {Control::cmdShowRest};
     } else if (meant.waiting == 0 && someHaveProblems) {
-        content = {words.atTheEnd(meant) + u'.', {Control::cmdReport}};
+        pieces.append(words.atTheEnd(meant));
+        content.buttons = {Control::cmdReport};
         if (meant.refused > 0)
             content.buttons.prepend(Control::cmdCheckRefused);
-    } else if (const auto earlier = std::ranges::count_if(rows, isCheckedAndMayHaveAnEarlierOne)) {
-        // A Start that failed before it reached anybody: the next one would mail them again.
-        return {words.earlier(static_cast<int>(earlier)) + u'.', {Control::cmdUncheckSent}};
     }
-    // At the end too: whoever presses Start again must not have to think of them.
-    if (!content.buttons.isEmpty() && std::ranges::any_of(rows, isCheckedAndMayHaveIt))
+    // A Start that failed before it came to them: the next one would mail them again.
+    if (earlier > 0)
+        pieces.append(words.earlier(static_cast<int>(earlier)));
+    if (pieces.isEmpty())
+        return {};
+    if (anyHasIt || earlier > 0)
         content.buttons.prepend(Control::cmdUncheckSent);
+    content.text = pieces.join(QLatin1String(", ")) + u'.';
     return content;
 }
 

@@ -226,7 +226,7 @@ void TestRunBar::aStartThatReachedNobodyRemembersTheRunBefore()
     rig.smtp.raiseError(10, u"lost"_s); // the third is in doubt
     rig.start();
     rig.Timer.tick();
-    rig.smtp.raiseError(4, u"refused"_s);
+    rig.smtp.raiseError(4, u"connection refused"_s);
     rig.settle();
     QCOMPARE(rig.states(), QStringList(4, u"Waiting"_s));
     QCOMPARE(rig.bar.content().text, u"2 sent to in an earlier run."_s);
@@ -236,6 +236,28 @@ void TestRunBar::aStartThatReachedNobodyRemembersTheRunBefore()
     rig.settle();
     QCOMPARE(rig.checks(), u"-x-x"_s);
     QCOMPARE(rig.bar.content(), RunBar::Content());
+    static_cast<void>(rig.prompts.takeNotices());
+}
+
+void TestRunBar::aStartThatDidNotComeToThemRemembersTheRunBefore()
+{
+    BarRig rig;
+    rig.fillForm(4);
+    rig.startSending();
+    rig.finishMessage(false);
+    rig.finishMessage();
+    rig.smtp.raiseError(10, u"lost"_s); // the third is in doubt
+    rig.w.form.setText(Control::txtNMsg, u"1"_s);
+    rig.startSending();
+    rig.finishMessage(false);
+    rig.Timer.tick();
+    rig.smtp.raiseError(4, u"connection refused"_s);
+    rig.settle();
+    QCOMPARE(rig.bar.content().text, u"0 of 4 sent, 1 refused, 2 sent to in an earlier run."_s);
+    QCOMPARE(rig.buttons(), u"cmdUncheckSent cmdShowRest"_s);
+
+    rig.bar.cmdUncheckSent_Click();
+    QCOMPARE(rig.checks(), u"x--x"_s);
     static_cast<void>(rig.prompts.takeNotices());
 }
 

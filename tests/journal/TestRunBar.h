@@ -21,6 +21,7 @@ private Q_SLOTS:
     void uncheckingThoseSentUnchecksThoseInDoubtToo();
     void afterUncheckingThoseSentStartReachesTheRest();
     void aStartThatReachedNobodyRemembersTheRunBefore();
+    void aStartThatDidNotComeToThemRemembersTheRunBefore();
     void checkingTheRefusedUnchecksAllOthers();
     void rowsThatAreAsTheyShouldBeKeepTheirPictures();
     void theRestIsWhoIsCheckedAndWaits();
