@@ -138,9 +138,8 @@ std::optional<RunLines::Line> RunLines::Reader::next()
         const bool isWhole =
             whole.size() > ChecksumDigits && whole[ChecksumDigits] == ' ' &&
             checksumOf(whole.sliced(ChecksumDigits + 1)) == whole.first(ChecksumDigits);
-        m_lastWasBroken = !isWhole;
         if (!isWhole) {
-            m_sawBroken = true;
+            ++m_brokenLines;
             continue;
         }
         Line line;
@@ -149,7 +148,7 @@ std::optional<RunLines::Line> RunLines::Reader::next()
         line.kind = line.fields.takeFirst();
         if (line.kind != QLatin1String("project") || takeProject(line))
             return line;
-        m_sawBroken = true;
+        ++m_brokenLines;
     }
     return std::nullopt;
 }

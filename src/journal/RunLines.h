@@ -49,17 +49,14 @@ public:
 
     /// The next whole line; nothing at the end. Broken ones are passed over.
     [[nodiscard]] std::optional<Line> next();
-    /// Whether one was, so far.
-    [[nodiscard]] bool sawBroken() const { return m_sawBroken; }
-    /// Whether one stands behind the last whole line.
-    [[nodiscard]] bool lastWasBroken() const { return m_lastWasBroken; }
+    /// How many were, so far.
+    [[nodiscard]] int brokenLines() const { return m_brokenLines; }
 
 private:
     [[nodiscard]] bool takeProject(Line &line);
 
     QByteArrayView m_rest;
-    bool m_sawBroken = false;
-    bool m_lastWasBroken = false;
+    int m_brokenLines = 0;
 };
 
 /// The positions of a field in a list of so many rows; none when it holds anything else.

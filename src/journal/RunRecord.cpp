@@ -48,6 +48,11 @@ bool isHead(const RunLines::Line &line)
     return line.kind == QLatin1String("run") && line.fields.value(0) == u"1";
 }
 
+bool saysHowFarTheRunCame(const RunLines::Line &line)
+{
+    return line.kind == QLatin1String("send") || line.kind == QLatin1String("done");
+}
+
 // Takes out of the project what would come back from its file as something else; returns it as
 // lines of their own.
 QByteArray takeFragile(ProjectData &project)
@@ -74,7 +79,8 @@ public:
         : m_record(record),
           m_project(record.project),
           m_language(language),
-          m_firstRow(std::max(1, record.project.nextRecipientIndex))
+          m_firstRow(std::max(1, record.project.nextRecipientIndex)),
+          m_isTold(record.project.recipients.size())
     {}
 
     void take(const RunLines::Line &line)
@@ -94,18 +100,18 @@ public:
 
     /// The rows that no line accounts for. A run goes through the list in order: what lies before
     /// the place where it goes on was passed over, or else was handed over in a line that is lost.
-    void finish(bool lastWasBroken)
+    /// Each broken line behind all that say how far the run came may be a message's.
+    void finish(int brokenLinesAtEnd)
     {
-        if (lastWasBroken)
+        for (int message = 0; message < brokenLinesAtEnd; ++message)
             doubtNextMessage();
         const int end = std::min(m_project.nextRecipientIndex - 1, count());
         for (int position = m_firstRow; position <= end; ++position) {
             Recipient &row = rowAt(position);
-            if (stateOfWord(row.state) != RowState::Waiting)
-                continue;
-            if (row.checked)
+            const bool isWaiting = stateOf(row) == RowState::Waiting;
+            if (row.checked && !mayHaveTheMessage(row) && (isWaiting || !isTold(position)))
                 set(row, Outcome::InDoubt);
-            else
+            else if (isWaiting)
                 row.state = stateWord(RowState::NotSent, m_language);
         }
     }
@@ -120,13 +126,18 @@ private:
     {
         return RunLines::positionsOf(field, count());
     }
+    // A reference, to read and to write.
+    [[nodiscard]] std::vector<bool>::reference isTold(int position)
+    {
+        return m_isTold[static_cast<std::size_t>(position - 1)];
+    }
     void set(Recipient &row, Outcome outcome)
     {
         row.attempt.outcome = outcome;
+        row.attempt.tries = std::max(1, row.attempt.tries); // the "send" may be lost
         row.state = stateWord(stateAfter(outcome), m_language);
     }
 
-    // The line that is lost may be that of a message behind all others that are known.
     void doubtNextMessage()
     {
         const int size = m_project.multiSend ? leadingNumber(m_project.messagesPerPacket) : 1;
@@ -134,7 +145,7 @@ private:
         int position = m_project.nextRecipientIndex;
         for (; position >= 1 && position <= count() && taken < size; ++position) {
             Recipient &row = rowAt(position);
-            if (!row.checked || stateOfWord(row.state) != RowState::Waiting)
+            if (!row.checked || mayHaveTheMessage(row))
                 continue;
             set(row, Outcome::InDoubt);
             ++taken;
@@ -177,6 +188,7 @@ private:
             row.attempt = {
                 {}, {}, fields.value(0).toLongLong(), row.attempt.tries + 1, fields.value(3)};
             set(row, Outcome::InDoubt);
+            isTold(position) = true;
             last = position;
         }
         if (last > 0)
@@ -188,17 +200,19 @@ private:
         const Outcome outcome = RunLines::outcomeOf(fields.value(2));
         if (outcome == Outcome::None)
             return;
-        for (const int position : positions(fields.value(1))) {
+        const std::vector<int> rows = positions(fields.value(1));
+        for (const int position : rows) {
             Recipient &row = rowAt(position);
             // Its "send" may be among the lines that are lost.
-            if (position >= m_project.nextRecipientIndex && outcome != Outcome::NotTaken)
+            if (!isTold(position) && position >= m_project.nextRecipientIndex)
                 m_project.nextRecipientIndex = positionAfter(m_project.recipients, position);
+            isTold(position) = true;
             row.attempt.time = fields.value(0).toLongLong();
             row.attempt.reply = RunLines::replyOf(fields, 3);
             set(row, outcome);
-            if (outcome == Outcome::NotTaken)
-                m_project.nextRecipientIndex = std::min(m_project.nextRecipientIndex, position);
         }
+        if (outcome == Outcome::NotTaken && !rows.empty())
+            m_project.nextRecipientIndex = std::min(m_project.nextRecipientIndex, rows.front());
     }
 
     static constexpr int MostTries = 1'000'000;
@@ -207,14 +221,15 @@ private:
     ProjectData &m_project;
     Language m_language;
     int m_firstRow;
+    std::vector<bool> m_isTold; ///< by row: whether a line tells of a message of this run
 };
 
 } // namespace
 
 bool RunRecord::hasBegun() const
 {
-    return std::any_of(project.recipients.begin(), project.recipients.end(),
-                       [](const Recipient &row) { return row.attempt.tries > 0; });
+    return isDamaged || std::any_of(project.recipients.begin(), project.recipients.end(),
+                                    [](const Recipient &row) { return row.attempt.tries > 0; });
 }
 
 bool RunRecord::hasControlRow() const
@@ -272,10 +287,14 @@ std::optional<RunRecord> readRun(QByteArrayView content, const CodePage &codePag
         return std::nullopt;
     record.project = std::move(*project);
     Replay replay(record, language);
-    while (const auto line = reader.next())
+    int brokenBefore = 0;
+    while (const auto line = reader.next()) {
         replay.take(*line);
-    replay.finish(reader.lastWasBroken());
-    record.isDamaged = reader.sawBroken();
+        if (saysHowFarTheRunCame(*line))
+            brokenBefore = reader.brokenLines();
+    }
+    replay.finish(reader.brokenLines() - brokenBefore);
+    record.isDamaged = reader.brokenLines() > 0;
     return record;
 }
 

@@ -24,7 +24,7 @@ struct RunRecord
     [[nodiscard]] bool canContinue() const;
     /// Whether the last row is the one for the control address.
     [[nodiscard]] bool hasControlRow() const;
-    /// Whether a message was handed over at all.
+    /// Whether a message was handed over at all; a damaged record may have lost the line of it.
     [[nodiscard]] bool hasBegun() const;
 };
 
@@ -33,7 +33,8 @@ struct RunRecord
 
 /// Reads a run's file. States are written in the words of that language. What stands behind the
 /// last whole line of the file does not count; what is broken inside is passed over, and the rows
-/// that nobody accounts for are in doubt. Nothing when it is no run's file, or has no whole
+/// that nobody accounts for are in doubt: those before the place that the run had come to, and
+/// behind it those of a message for each line that is broken there. Nothing when it is no run's file, or has no whole
 /// project.
 [[nodiscard]] std::optional<RunRecord> readRun(QByteArrayView content, const CodePage &codePage,
                                                Language language);

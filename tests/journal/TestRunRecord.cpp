@@ -278,6 +278,72 @@ void TestRunRecord::theMessageBehindABrokenEndIsInDoubt()
              QStringList({u"Sent"_s, u"Not sent"_s, u"Sending..."_s, u"Sending..."_s}));
 }
 
+// A byte less between them, and two lines are one that is broken.
+void TestRunRecord::theMessageBehindABrokenEndIsInDoubtAlsoWhenTheRunIsOver()
+{
+    const RunRecord record =
+        readBack(encodeRun(example(), Western) + send({1}) + done({1}, Outcome::Sent) +
+                 send({2}).chopped(1) + done({2}, Outcome::Sent) + RunLines::over(9));
+    QCOMPARE(statesOf(record),
+             QStringList({u"Sent"_s, u"Sending..."_s, u"Waiting"_s, u"Waiting"_s}));
+    QCOMPARE(record.project.nextRecipientIndex, 3);
+}
+
+void TestRunRecord::eachBrokenLineAtTheEndMayBeAMessage()
+{
+    const RunRecord record =
+        readBack(encodeRun(example(), Western) + send({1}) + "broken\nbroken\nbroken\n");
+    QCOMPARE(statesOf(record),
+             QStringList({u"Sending..."_s, u"Sending..."_s, u"Sending..."_s, u"Sending..."_s}));
+    QCOMPARE(record.project.nextRecipientIndex, 5);
+}
+
+void TestRunRecord::aMessageNotTakenTellsThatTheRunHadComeThere()
+{
+    const RunRecord record = readBack(encodeRun(example(), Western) + "broken\nbroken\nbroken\n" +
+                                      done({2}, Outcome::NotTaken));
+    QCOMPARE(statesOf(record),
+             QStringList({u"Sending..."_s, u"Waiting"_s, u"Waiting"_s, u"Waiting"_s}));
+    QCOMPARE(record.project.nextRecipientIndex, 2);
+}
+
+void TestRunRecord::whomTheServerRefusedOfAMessageNotTakenDoesNotMoveTheRunOn()
+{
+    const RunRecord record =
+        readBack(encodeRun(example(), Western) + send({1, 2, 3}) + done({1, 2}, Outcome::NotTaken) +
+                 done({3}, Outcome::Refused, Unknown));
+    QCOMPARE(statesOf(record),
+             QStringList({u"Waiting"_s, u"Waiting"_s, u"Error!"_s, u"Waiting"_s}));
+    QCOMPARE(record.project.nextRecipientIndex, 1);
+}
+
+// A run comes to whoever is checked, whatever the state says.
+void TestRunRecord::rowsThatWereRefusedBeforeAreInDoubtToo()
+{
+    RunRecord written = example();
+    written.project.recipients[0].state = u"Error!"_s;
+    written.project.recipients[1].state = u"what is this"_s;
+    written.project.recipients[2].state = u"Error!"_s;
+    const QStringList inDoubt{u"Sending..."_s, u"Sending..."_s, u"Error!"_s, u"Waiting"_s};
+    QCOMPARE(statesOf(readBack(encodeRun(written, Western) + "broken\nbroken\n")), inDoubt);
+    RunRecord record = readBack(encodeRun(written, Western) + "broken\n" + send({3}) +
+                                done({3}, Outcome::Refused, Unknown));
+    QCOMPARE(statesOf(record), inDoubt);
+}
+
+void TestRunRecord::aMessageWhoseHandOverIsLostWasHandedOver()
+{
+    for (const QByteArray &end : {QByteArray(), done({1}, Outcome::Sent, Taken)}) {
+        const RunRecord record = readBack(encodeRun(example(), Western) + "broken\n" + end);
+        QVERIFY(record.hasBegun());
+        QCOMPARE(record.project.recipients[0].attempt.tries, 1);
+    }
+    RunRecord written = example(1);
+    written.project.nextRecipientIndex = 2;
+    written.project.recipients[0].state = u"Sending..."_s;
+    QVERIFY(readBack(encodeRun(written, Western) + "broken\n").hasBegun());
+}
+
 void TestRunRecord::theControlRowIsNobodyWhoIsCounted()
 {
     RunRecord written = example(2);

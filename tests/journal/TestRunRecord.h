@@ -21,6 +21,12 @@ private Q_SLOTS:
     void aBrokenByteNeverMakesARowSentOrWaitingAgain();
     void aResultWithoutItsHandOverMovesTheRunOn();
     void theMessageBehindABrokenEndIsInDoubt();
+    void theMessageBehindABrokenEndIsInDoubtAlsoWhenTheRunIsOver();
+    void eachBrokenLineAtTheEndMayBeAMessage();
+    void aMessageNotTakenTellsThatTheRunHadComeThere();
+    void whomTheServerRefusedOfAMessageNotTakenDoesNotMoveTheRunOn();
+    void rowsThatWereRefusedBeforeAreInDoubtToo();
+    void aMessageWhoseHandOverIsLostWasHandedOver();
     void theControlRowIsNobodyWhoIsCounted();
     void rangesThatRepeatRowsSayNothing();
     void rowsThatNoLineAccountsForAreInDoubt();
