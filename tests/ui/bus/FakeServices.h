@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 #include <QDBusUnixFileDescriptor>
 #include <QObject>
+#include <QTest>
 #include <QVariantMap>
 
 #include <sys/select.h>
@@ -10,6 +13,18 @@
 
 #include <memory>
 #include <vector>
+
+/// Whether everything that was asked over that connection is answered before long: calls are taken
+/// in their order, and one of the test's own is sent behind them. Nobody needs to be there.
+inline bool isAllAnswered(const QDBusConnection &bus, const QString &service, const QString &path)
+{
+    const QDBusPendingCallWatcher last(
+        bus.asyncCall(QDBusMessage::createMethodCall(service, path, {}, QStringLiteral("last"))));
+    bool isAnswered = false;
+    QObject::connect(&last, &QDBusPendingCallWatcher::finished,
+                     [&isAnswered] { isAnswered = true; });
+    return QTest::qWaitFor([&isAnswered] { return isAnswered; });
+}
 
 /// A lock that somebody holds: a pipe, whose other end says when it is given up.
 class FakeLock
@@ -84,7 +99,14 @@ public:
 
     std::vector<Asked> asked;
 
+    [[nodiscard]] static bool hasAnsweredAll()
+    {
+        return isAllAnswered(QDBusConnection::systemBus(), QStringLiteral("org.freedesktop.login1"),
+                             QStringLiteral("/org/freedesktop/login1"));
+    }
+
 public Q_SLOTS:
+    void last() {}
     QDBusUnixFileDescriptor Inhibit(const QString &what, const QString &who, const QString &why,
                                     const QString &mode)
     {
@@ -133,7 +155,15 @@ public:
 
     QList<ShownNotification> shown;
 
+    [[nodiscard]] static bool hasAnsweredAll()
+    {
+        return isAllAnswered(QDBusConnection::sessionBus(),
+                             QStringLiteral("org.freedesktop.Notifications"),
+                             QStringLiteral("/org/freedesktop/Notifications"));
+    }
+
 public Q_SLOTS:
+    void last() {}
     uint Notify(const QString &, uint replaces, const QString &icon, const QString &summary,
                 const QString &body, const QStringList &actions, const QVariantMap &hints, int)
     {

@@ -28,8 +28,8 @@ void TestSleepInhibitor::aRunKeepsTheComputerAwake()
     rig.Timer.tick();
     rig.smtp.raiseReady();
     QCOMPARE(rig.w.form.runState(), RunState::Sending);
-    QCoreApplication::processEvents();
     // One lock for the whole run.
+    QVERIFY(FakeLoginManager::hasAnsweredAll());
     QCOMPARE(manager.asked.size(), std::size_t{1});
     QVERIFY(!manager.asked[0].lock->isGivenUp());
     rig.w.engine.StopSending();
@@ -78,10 +78,10 @@ void TestSleepInhibitor::withoutTheServiceNothingHappens()
 {
     SleepRig rig;
     rig.startSending();
-    QCoreApplication::processEvents();
+    QVERIFY(FakeLoginManager::hasAnsweredAll());
     rig.w.engine.StopSending();
     // Whoever comes later is not asked for the run that is over.
-    FakeLoginManager manager;
-    QCoreApplication::processEvents();
+    const FakeLoginManager manager;
+    QVERIFY(FakeLoginManager::hasAnsweredAll());
     QVERIFY(manager.asked.empty());
 }
