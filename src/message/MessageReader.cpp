@@ -10,12 +10,13 @@
 
 namespace {
 
+constexpr QByteArrayView Key = "charset=";
+
 // What stands behind "charset=" near the beginning of an HTML file, in lower case.
 QByteArray declaredCharset(const QByteArray &content)
 {
     constexpr qsizetype Reach = 1024;
     const QByteArray head = content.first(std::min(content.size(), Reach)).toLower();
-    constexpr QByteArrayView Key = "charset=";
     qsizetype at = head.indexOf(Key);
     if (at < 0)
         return {};
@@ -30,18 +31,19 @@ QByteArray declaredCharset(const QByteArray &content)
 }
 
 // The text by the file's own declaration; nothing when it has none, or one that its bytes do not
-// keep to.
+// keep to. A declaration that is read byte by byte stands in the text too: a file that names UTF-16
+// there, by whatever name, is not in it.
 std::optional<QString> decodeAsDeclared(const QByteArray &content)
 {
     const QByteArray charset = declaredCharset(content);
-    // Where a declaration can be read at all, a letter is one byte.
-    if (charset.isEmpty() || charset.startsWith("utf-16") || charset.startsWith("utf-32"))
-        return std::nullopt;
-    QStringDecoder decoder(charset.constData());
-    if (!decoder.isValid())
+    // Stateless: nothing follows that could end a letter begun in the last bytes.
+    QStringDecoder decoder(charset.constData(), QStringDecoder::Flag::Stateless);
+    if (charset.isEmpty() || !decoder.isValid())
         return std::nullopt;
     const QString text = decoder(content);
-    return decoder.hasError() ? std::nullopt : std::optional(text);
+    const bool isKept = !decoder.hasError() && text.isValidUtf16() &&
+                        text.contains(QLatin1String(Key), Qt::CaseInsensitive);
+    return isKept ? std::optional(text) : std::nullopt;
 }
 
 } // namespace

@@ -189,6 +189,14 @@ void TestMessageReader::encodingOfHtml_data()
                                                 << "\xE8"_ba << u"è"_s;
     QTest::newRow("UTF-32, which it cannot be") << "charset=utf-32"_ba
                                                 << "ASCII"_ba << u"ASCII"_s;
+    QTest::newRow("UTF-16 by another name") << "charset=unicode"_ba
+                                            << "\xE8"_ba << u"è"_s;
+    QTest::newRow("UTF-16 without its dash") << "charset=utf16"_ba
+                                             << "\xE8 "_ba << u"è "_s;
+    QTest::newRow("not even ASCII") << "charset=ibm037"_ba
+                                    << "\xE8"_ba << u"è"_s;
+    QTest::newRow("half a character") << "charset=utf-7"_ba
+                                      << "+2AA-"_ba << u"+2AA-"_s;
     QTest::newRow("too far down") << "name=\""_ba + QByteArray(1024, 'x') +
                                          "\"><meta charset=windows-1251"_ba
                                   << "\xE8"_ba << u"è"_s;
@@ -207,6 +215,16 @@ void TestMessageReader::encodingOfHtml()
     QCOMPARE(decodeMessage("\xEF\xBB\xBF" + expected.toUtf8(), MessageKind::Html,
                            CodePage("windows-1252")),
              expected);
+}
+
+void TestMessageReader::declarationThatTheLastByteBreaksIsNotKept()
+{
+    QCOMPARE(
+        decodeMessage("charset=utf-8 \xC3\xA8 \xC3", MessageKind::Html, CodePage("windows-1252")),
+        u"charset=utf-8 Ã¨ Ã"_s);
+    QCOMPARE(decodeMessage("charset=shift_jis \x93\xFA \x93", MessageKind::Html,
+                           CodePage("windows-1252")),
+             u"charset=shift_jis “ú “"_s);
 }
 
 void TestMessageReader::declarationInATextFileIsText()

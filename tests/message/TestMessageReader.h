@@ -23,5 +23,6 @@ private Q_SLOTS:
     void encodingOfText();
     void encodingOfHtml_data();
     void encodingOfHtml();
+    void declarationThatTheLastByteBreaksIsNotKept();
     void declarationInATextFileIsText();
 };

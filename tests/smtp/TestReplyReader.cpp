@@ -133,6 +133,7 @@ void TestReplyReader::extensions_data()
         << "server.example\n Pipelining \nsize   99\t"_qba << u"pipelining size=99"_s;
     QTest::newRow("size without a limit") << "server.example\nSIZE"_qba << u"size=0"_s;
     QTest::newRow("size that is no number") << "server.example\nSIZE lots"_qba << u"size=0"_s;
+    QTest::newRow("size below nothing") << "server.example\nSIZE -5"_qba << u"size=0"_s;
     QTest::newRow("the first line names the server") << "PIPELINING\nCHUNKING"_qba << u"chunking"_s;
     QTest::newRow("a longer word") << "server.example\nPIPELININGS\nX-CHUNKING"_qba << u""_s;
 }

@@ -2,6 +2,8 @@
 
 #include "smtp/client/ReplyReader.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -38,7 +40,7 @@ Extensions Extensions::fromEhlo(const QByteArray &lines)
             }
         } else if (keyword == "SIZE") {
             extensions.size = true;
-            extensions.largestMessage = words.value(1).toLongLong();
+            extensions.largestMessage = std::max<qint64>(0, words.value(1).toLongLong());
         }
     }
     return extensions;
