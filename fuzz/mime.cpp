@@ -35,11 +35,17 @@ bool isExpected(const QByteArray &name)
 
 void checkHeader(const QByteArray &header)
 {
+    QList<QByteArray> names;
     for (const QByteArray &line : header.split('\n')) {
-        const bool isContinuation = line.startsWith(' ') || line.startsWith('\t');
-        if (!isContinuation)
-            mustHold(isExpected(line.left(line.indexOf(':'))), "only known headers are there");
+        if (line.startsWith(' ') || line.startsWith('\t'))
+            continue;
+        const QByteArray name = line.left(line.indexOf(':'));
+        mustHold(isExpected(name), "only known headers are there");
+        mustHold(!names.contains(name), "no header is there twice");
+        names += name;
     }
+    for (const char *name : {"From", "To", "Subject", "Date", "Message-ID", "MIME-Version"})
+        mustHold(names.contains(name), "what every letter has is there");
 }
 
 } // namespace
@@ -58,7 +64,8 @@ void fuzz(QByteArrayView bytes)
     message.ReceiptAddress = textOf(pieces.next());
     message.RequestReceipt = !message.ReceiptAddress.isEmpty();
     message.Mailer = textOf(pieces.next());
-    message.ExtraHeaders = QStringLiteral("X-Id: 1\r\n");
+    message.RecipientList = !pieces.next().isEmpty();
+    message.ExtraHeaders = QStringLiteral("X-Id: 1\r\nMessage-ID: <1@pc>\r\n");
     message.DateText = QStringLiteral("Sat, 21 Nov 2026 09:00:00");
 
     LetterBuilder builder(clock);
@@ -75,5 +82,9 @@ void fuzz(QByteArrayView bytes)
         mustHold(text.size() <= LongestLine, "no line is too long");
     }
     mustHold(content.count('\n') == content.count("\r\n"), "every line ends in CR LF");
-    checkHeader(content.first(end).replace("\r\n", "\n"));
+    const QByteArray header = content.first(end).replace("\r\n", "\n");
+    checkHeader(header);
+    if (letter->recipients.size() > 1)
+        mustHold(header.contains("\nTo: undisclosed-recipients:;\n"),
+                 "a group is not shown to its members");
 }
