@@ -34,8 +34,8 @@ struct RunRecord
 /// Reads a run's file. States are written in the words of that language. What stands behind the
 /// last whole line of the file does not count; what is broken inside is passed over, and the rows
 /// that nobody accounts for are in doubt: those before the place that the run had come to, and
-/// behind it those of a message for each line that is broken there. Nothing when it is no run's file, or has no whole
-/// project.
+/// behind it those of a message for each line that is broken there. Nothing when it is no run's
+/// file, or has no whole project.
 [[nodiscard]] std::optional<RunRecord> readRun(QByteArrayView content, const CodePage &codePage,
                                                Language language);
 
