@@ -337,7 +337,8 @@ void fuzzBuilt(QByteArrayView bytes)
 
     Damage damage;
     damage.lines = run.lines;
-    if (choices.oneIn(2)) {
+    // The head has lines of its own.
+    if (choices.oneIn(2) && run.lines.size() > 1) {
         const QByteArray &last = run.lines.back();
         damage.unfinished = last.first(choices.upTo(last.size() - 1));
     }
